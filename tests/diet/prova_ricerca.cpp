@@ -1,0 +1,365 @@
+// The search over a small food base: what it says, what it keeps, where it resumes; and over the real one.
+#include "base/errori.h"
+#include "base/file.h"
+#include "diet/banco.h"
+#include "diet/bersagli.h"
+#include "diet/dieta.h"
+#include "diet/ricerca.h"
+#include "diet/selezione_automatica.h"
+#include "stampa.h"
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a search said and how it ended.
+struct Ascolto {
+  QStringList detti;
+  std::vector<int> progressi;
+  std::vector<bool> termini;
+
+  Tramite tramite(std::uint64_t seme) {
+    return {[this](const Riquadro& r) { detti << r.testo; }, [this](int n) { progressi.push_back(n); },
+            [this](bool intera) { termini.push_back(intera); }, caso_con_seme(seme)};
+  }
+};
+
+TotaliGiornalieri totali(int calorie, int protidi, int lipidi) {
+  TotaliGiornalieri t;
+  t.calorie.fill(calorie);
+  t.protidi.fill(static_cast<float>(protidi));
+  t.lipidi.fill(static_cast<float>(lipidi));
+  return t;
+}
+
+class Ricerca : public Banco {
+ protected:
+  int pieni(int pasto, int settimana = 1) const {
+    int n = 0;
+    for (int d = 0; d < giorni; ++d) n += m.menu(settimana, d, pasto, 0).cod1 != 0;
+    return n;
+  }
+  std::vector<int> codici(int giorno, int pasto) const {
+    std::vector<int> c;
+    for (int i = 0; m.menu(1, giorno, pasto, i).cod1 != 0; ++i) c.push_back(m.menu(1, giorno, pasto, i).cod1);
+    return c;
+  }
+  void integratore(double grammi, bool lv, bool sd) {
+    Archivio(percorso(u"dati.tmp"_s))
+        .esegui(u"INSERT INTO Integratore_dieta VALUES ('Polvere', ?, 400, 50, 5, 20, 23, 1, ?, ?)"_s, grammi, lv, sd);
+  }
+};
+
+// A lunch of 720 kcal, 144 of protein, 216 of fat: the pair of group 8 is exact, and so is 4 with 8 left to grow.
+const std::vector<Cibo> due_portate{{4, 1, 2, 1, 360, 18, 12, 45, true}, {8, 1, 4, 1, 360, 18, 12, 45, true}};
+constexpr PercentualiPasti solo_pranzo{0, 0, 100, 0, 0};
+
+}  // namespace
+
+TEST_F(Ricerca, NoShareForAnyMealIsACompleteEmptyWeek) {
+  base({});
+  cliente({});
+  m.menu(1, 3, 2, 0).cod1 = 8;
+  m.menu(2, 3, 2, 0).cod1 = 8;
+  Ascolto a;
+  elabora_settimana(m, totali(2000, 400, 600), {0, 0, 0, 0, 0}, a.tramite(1));
+  EXPECT_EQ(a.termini, std::vector{true});
+  EXPECT_TRUE(a.detti.isEmpty());
+  EXPECT_EQ(m.menu(1, 3, 2, 0).cod1, 0) << "the week under work was cleared";
+  EXPECT_EQ(m.menu(2, 3, 2, 0).cod1, 8) << "the others stay";
+}
+
+TEST_F(Ricerca, ALunchIsBuiltCourseByCourseAndServedTwiceAWeek) {
+  base(due_portate);
+  cliente({{4, 1, 2, 1, 4}, {8, 1, 4, 1, 4}});
+  Ascolto a;
+  elabora_settimana(m, totali(720, 144, 216), solo_pranzo, a.tramite(1));
+  EXPECT_EQ(codici(0, 2), (std::vector{4, 8}));
+  EXPECT_EQ(pieni(2), 2) << "each food serves two lunches";
+  EXPECT_EQ(a.termini, std::vector{false});
+  ASSERT_EQ(a.detti.size(), 4 * 2 + 1);
+  EXPECT_EQ(a.detti[0], u"Errori KCAL: 0\nErrori Prot: 0\nErrori Lip: 0\nK"_s);
+  EXPECT_EQ(a.detti[1],
+            u"Ho difficoltà ad elaborare il pranzo\nPremi Invio (Enter) per iniziare un nuovo ciclo di ricerca !"_s);
+  EXPECT_TRUE(a.detti.back().startsWith(u"Attenzione: la difficoltà di elaborare il pasto in sospeso"_s));
+  EXPECT_EQ(m.ripresa_pasto, 2);
+  EXPECT_EQ(m.ripresa_giorno, 2);
+
+  // The next press resumes at that lunch, in whatever week, with counters and deviations as they were.
+  m.settimana_corrente = 2;
+  cliente({{4, 1, 2, 1, 4}, {8, 1, 4, 1, 4}, {4, 2, 2, 1, 4}, {8, 2, 4, 1, 4}});
+  auto di_piu = due_portate;
+  for (Cibo c : due_portate) {
+    c.cod2 = 2;
+    di_piu.push_back(c);
+  }
+  base(di_piu);
+  Ascolto b;
+  elabora_settimana(m, totali(720, 144, 216), solo_pranzo, b.tramite(1));
+  EXPECT_EQ(b.progressi.front(), 2 * 7 + 2 + 1) << "nothing was reset";
+  EXPECT_EQ(pieni(2, 1), 2);
+  EXPECT_FALSE(m.menu(2, 2, 2, 0).cod1 == 0);
+  EXPECT_EQ(m.menu(2, 0, 2, 0).cod1, 0);
+}
+
+TEST_F(Ricerca, DominantCauseIsTold) {
+  struct Esempio {
+    const char* che;
+    Cibo cibo;
+    QString lettera;
+  };
+  for (const Esempio& c :
+       {Esempio{
+            "calories", {8, 1, 4, 1, 900, 36, 24, 45, true}, u"Errori KCAL: 75\nErrori Prot: 0\nErrori Lip: 0\nK"_s},
+        {"protein", {8, 1, 4, 1, 720, 60, 24, 45, true}, u"Errori KCAL: 0\nErrori Prot: 75\nErrori Lip: 0\nP"_s},
+        {"fat", {8, 1, 4, 1, 720, 36, 48, 45, true}, u"Errori KCAL: 0\nErrori Prot: 0\nErrori Lip: 75\nL"_s}}) {
+    m = {};
+    base({c.cibo});
+    cliente({{8, 1, 4, 1, 4}});
+    Ascolto a;
+    elabora_settimana(m, totali(720, 144, 216), solo_pranzo, a.tramite(1));
+    ASSERT_FALSE(a.detti.isEmpty()) << c.che;
+    EXPECT_EQ(a.detti[0], c.lettera) << c.che;
+    EXPECT_TRUE(m.tipo_errore.isEmpty()) << "the letter holds for one attempt";
+  }
+}
+
+TEST_F(Ricerca, ALightMealIsGivenUpAndTheSearchGoesOn) {
+  base(
+      {{3, 1, 0, 1, 500, 9, 9, 9}, {3, 2, 0, 2, 500, 9, 9, 9}, {3, 3, 0, 3, 500, 9, 9, 9}, {3, 5, 0, 5, 500, 9, 9, 9}});
+  struct Esempio {
+    const char* che;
+    std::vector<Offerta> offerte;
+    QString primo;
+  };
+  for (const Esempio& c :
+       {Esempio{"nothing to draw", {}, u"ERRORE nel caricamento1 0"_s},
+        {"always too much",
+         {{3, 1, 0, 1, 3}, {3, 2, 0, 2, 3}, {3, 3, 0, 3, 3}, {3, 5, 0, 5, 3}},
+         u"ERRORE nel caricamento 1 0"_s},
+        {"a food that the store lacks must not hang the search", {{3, 9, 0, 1, 3}}, u"ERRORE nel caricamento1 0"_s}}) {
+    m = {};
+    cliente(c.offerte);
+    Ascolto a;
+    elabora_settimana(m, totali(2000, 400, 600), {0, 5, 0, 0, 0}, a.tramite(1));
+    EXPECT_EQ(a.detti.size(), 7) << c.che;
+    EXPECT_EQ(a.detti.value(0), c.primo) << c.che;
+    EXPECT_EQ(a.termini, std::vector{true}) << c.che;
+    EXPECT_EQ(pieni(1), 0) << c.che;
+  }
+}
+
+TEST_F(Ricerca, DinnerTakesOffWhatTheDayOvershot) {
+  // Snack 105 for a target of 100; the dinner target 720 falls to 715 and its food of 715 fits.
+  base({{3, 1, 0, 1, 105, 5, 3, 10, true}, {8, 1, 4, 1, 715, 36, 24, 45, true}});
+  cliente({{3, 1, 0, 1, 3}, {8, 1, 4, 1, 6}});
+  Ascolto a;
+  TotaliGiornalieri t = totali(1000, 200, 300);
+  elabora_settimana(m, t, {0, 10, 0, 0, 72}, a.tramite(1));
+  EXPECT_EQ(pieni(1), 7);
+  EXPECT_EQ(pieni(4), 7);
+  EXPECT_EQ(m.scarti[6].kcal, 5);
+  EXPECT_EQ(a.termini, std::vector{true});
+  // Snacks that overshoot by more than the dinner's target leave the dinners empty, without a word.
+  m = {};
+  base({{3, 1, 0, 1, 105, 5, 3, 10, true}});
+  Ascolto b;
+  t = totali(100, 20, 30);
+  elabora_settimana(m, t, {0, 100, 0, 0, 4}, b.tramite(1));
+  EXPECT_EQ(pieni(1), 7);
+  EXPECT_EQ(pieni(4), 0);
+  EXPECT_EQ(b.termini, std::vector{true});
+  EXPECT_TRUE(b.detti.isEmpty());
+}
+
+TEST_F(Ricerca, SupplementGoesIntoTheLunchOfItsDays) {
+  base({{8, 1, 4, 1, 640, 26, 22, 45, true}});
+  cliente({{8, 1, 4, 1, 4, "LV SD"}});
+  integratore(0, true, true);
+  integratore(20, true, false);
+  Ascolto a;
+  elabora_settimana(m, totali(720, 144, 207), solo_pranzo, a.tramite(1));
+  EXPECT_EQ(codici(0, 2), (std::vector{8, 23}));
+  const voce_pasto& v = m.menu(1, 0, 2, 1);
+  EXPECT_EQ(v.descr, u"Polvere"_s);
+  EXPECT_EQ(v.cal, 80);
+  EXPECT_FLOAT_EQ(v.prot, 40);
+  EXPECT_TRUE(v.unico);
+  EXPECT_EQ(pieni(2), 5) << "on Saturday the lunch falls short without it";
+  EXPECT_EQ(m.ripresa_giorno, 5);
+}
+
+TEST_F(Ricerca, AMissingStoreEndsByItselfAndLosesNothing) {
+  cliente({{3, 1, 0, 1, 3}, {8, 1, 4, 1, 4}});
+  QFile rotto(percorso(u"sa_dieta.jed"_s));
+  for (const char* che : {"missing", "no store"}) {
+    m = {};
+    Ascolto a;
+    elabora_settimana(m, totali(2000, 400, 600), {0, 5, 35, 0, 0}, a.tramite(1));
+    EXPECT_EQ(a.termini, std::vector{false}) << che;
+    EXPECT_EQ(a.detti.size(), 7 + 4 * 2 + 1) << che;
+    ASSERT_TRUE(rotto.open(QIODevice::WriteOnly));
+    rotto.write("non un archivio");
+    rotto.close();
+  }
+}
+
+TEST_F(Ricerca, SetUpReadsTheDayTotalsAndShares) {
+  struct Esempio {
+    int indice;
+    QString testo, valore;
+  };
+  for (const Esempio& c : {Esempio{0, u"71+70+"_s, u"71"_s},
+                           {1, u"71+70+"_s, u"70"_s},
+                           {2, u"71+70+"_s, u""_s},
+                           {1, u"71+70"_s, u""_s},
+                           {0, u"a+70+"_s, u""_s},
+                           {1, u"a+70+5+"_s, u"70"_s},
+                           {0, u"+"_s, u""_s},
+                           {0, u"1,5+"_s, u"1,5"_s}}) {
+    EXPECT_EQ(estrai_valore_giorno(c.indice, c.testo), c.valore) << c.testo.toStdString() << ' ' << c.indice;
+  }
+  base(due_portate);
+  cliente({{4, 1, 2, 1, 4}, {8, 1, 4, 1, 4}});
+  Ascolto a;
+  elabora_dieta(m, a.tramite(1));
+  EXPECT_EQ(a.detti, QStringList{u"Impossibile elaborare la dieta mancano i totali calorici giornalieri !"_s});
+  Archivio dati(percorso(u"dati.tmp"_s));
+  dati.esegui(
+      u"INSERT INTO sport (calorie_totali, protidi, lipidi, glucidi) VALUES ('720+720+', '144+144+', '216+216+', '')"_s);
+  elabora_dieta(m, a.tramite(1));
+  EXPECT_EQ(a.detti.back(), u"Impossibile elaborare la dieta mancano i consumi giornalieri percentuali !"_s);
+  EXPECT_TRUE(a.termini.empty()) << "no search ran";
+  dati.esegui(u"INSERT INTO consumi VALUES (0, 0, 100, 0, 0)"_s);
+  elabora_dieta(m, a.tramite(1));
+  EXPECT_EQ(pieni(2), 2);
+  EXPECT_EQ(a.termini, std::vector{true}) << "days without a total end the meal, not the search";
+}
+
+namespace {
+
+/// The program's own food base and a client of 1900 kcal with the automatic selection.
+class RicercaVera : public Ricerca {
+ protected:
+  void SetUp() override {
+    const QDir archivi(QStringLiteral(CARTELLA_ARCHIVI));
+    for (const QString& nome : {u"sa_dieta.jed"_s, u"sa_dieta_minus.jed"_s, u"sa_dieta_plus.jed"_s}) {
+      sostituisci_file(archivi.filePath(nome), percorso(nome));
+    }
+    sostituisci_file(archivi.filePath(u"matrix.jed"_s), percorso(u"dati.tmp"_s));
+    Archivio dati(percorso(u"dati.tmp"_s)), base_vera(percorso(u"sa_dieta.jed"_s));
+    seleziona_automatico(dati, base_vera, false);
+    dati.esegui(
+        u"INSERT INTO sport (calorie_totali, protidi, lipidi, glucidi) VALUES "
+        "('1900+1900+1900+1900+1900+1900+1900+', '342+342+342+342+342+342+342+', "
+        "'627+627+627+627+627+627+627+', '931+931+931+931+931+931+931+')"_s);
+    dati.esegui(u"INSERT INTO consumi VALUES (12, 7, 37, 7, 37)"_s);
+  }
+};
+
+}  // namespace
+
+TEST_F(RicercaVera, OneSeedGivesOneMenuThatMeetsItsTargets) {
+  Ascolto a, b;
+  elabora_dieta(m, a.tramite(5));
+  EXPECT_EQ(a.termini, std::vector{true});
+  Motore altro;
+  elabora_dieta(altro, b.tramite(5));
+  for (std::size_t i = 0; i < m.voci_menu.size(); ++i) {
+    ASSERT_TRUE(m.voci_menu[i].descr == altro.voci_menu[i].descr && m.voci_menu[i].quant == altro.voci_menu[i].quant)
+        << i;
+  }
+  std::map<int, int> pranzi;
+  for (int d = 0; d < giorni; ++d) {
+    EXPECT_NEAR(totali_giorno(m, 1, d).calorie, 1900, 0.09 * 1900) << "day " << d;
+    for (int p = 0; p < pasti; ++p) {
+      EXPECT_NE(m.menu(1, d, p, 0).cod1, 0) << d << ' ' << p;
+      for (int i = 1; m.menu(1, d, p, i).cod1 != 0; ++i)
+        EXPECT_LE(m.menu(1, d, p, i - 1).cod1, m.menu(1, d, p, i).cod1);
+    }
+    for (int i = 0; m.menu(1, d, 2, i).cod1 != 0; ++i)
+      ++pranzi[m.menu(1, d, 2, i).cod1 * 1000 + m.menu(1, d, 2, i).cod2];
+  }
+  for (const auto& [cibo, volte] : pranzi) EXPECT_LE(volte, 2) << cibo;
+}
+
+TEST_F(RicercaVera, TheDietIsStoredAndReadBackAsItStood) {
+  Ascolto a;
+  for (m.settimana_corrente = 1; m.settimana_corrente <= 2; ++m.settimana_corrente) elabora_dieta(m, a.tramite(9));
+  m.menu(2, 6, 4, 0).quant_mod = u"75"_s;
+  Archivio dati(percorso(u"dati.tmp"_s));
+  const int righe = scrivi_dieta(m, dati, u"12"_s);
+  EXPECT_GT(righe, 2 * 35 * 2);
+  Motore altro;
+  altro.menu(3, 0, 0, 0).descr = u"resta"_s;
+  EXPECT_EQ(leggi_dieta(altro, dati), righe);
+  EXPECT_EQ(altro.menu(3, 0, 0, 0).descr, u"resta"_s) << "weeks that are not stored keep what they held";
+  altro.menu(3, 0, 0, 0) = {};
+  for (std::size_t i = 0; i < m.voci_menu.size(); ++i) {
+    const voce_pasto &x = m.voci_menu[i], &y = altro.voci_menu[i];
+    ASSERT_TRUE(x.cod1 == y.cod1 && x.cod2 == y.cod2 && x.descr == y.descr && x.cal == y.cal && x.prot == y.prot &&
+                x.lip == y.lip && x.gluc == y.gluc && x.quant == y.quant && x.quant_mod == y.quant_mod)
+        << i;
+  }
+  EXPECT_EQ(scrivi_dieta(Motore{}, dati, u"12"_s), 0);
+  EXPECT_TRUE(dati.righe(u"SELECT * FROM dieta"_s).empty()) << "an empty menu deletes the old diet";
+}
+
+TEST_F(Ricerca, StoredWeeksOfOneMealRunOnInTheSlots) {
+  cliente({});
+  Archivio dati(percorso(u"dati.tmp"_s));
+  for (const int settimana : {1, 2}) {
+    dati.esegui(u"INSERT INTO dieta (dieta, giorno, pasto, cod1, cal, quant) VALUES (?, 0, 0, 1, 50, 10)"_s, settimana);
+  }
+  EXPECT_EQ(leggi_dieta(m, dati), 2);
+  EXPECT_EQ(m.menu(2, 0, 0, 0).cod1, 0);
+  EXPECT_EQ(m.menu(2, 0, 0, 1).cod1, 1) << "same day and meal: the slot is not set back";
+  dati.esegui(u"INSERT INTO dieta (dieta, giorno, pasto, cod1) VALUES (5, 0, 0, 1)"_s);
+  EXPECT_THROW(leggi_dieta(m, dati), Errore);
+}
+
+TEST(TotaliDieta, AlteredGramsScaleAllFourValues) {
+  Motore m;
+  m.menu(1, 0, 0, 0) = {
+      .cod1 = 1, .descr = {}, .cal = 100, .prot = 40, .lip = 30, .gluc = 31, .quant = 50, .quant_mod = u"75"_s};
+  m.menu(1, 0, 3, 0) = {
+      .cod1 = 1, .descr = {}, .cal = 11, .prot = 1, .lip = 1, .gluc = 1, .quant = 10, .quant_mod = {}};
+  m.menu(1, 0, 3, 2) = {
+      .cod1 = 1, .descr = {}, .cal = 11, .prot = 1, .lip = 1, .gluc = 1, .quant = 10, .quant_mod = {}};
+  const Totali t = totali_giorno(m, 1, 0);
+  EXPECT_EQ((std::array{t.calorie, int{t.protidi}, int{t.lipidi}, int{t.glucidi}}), (std::array{161, 61, 46, 47}))
+      << "46.5 + 1 rounds after each addition; what follows an empty entry does not count";
+  m.menu(1, 0, 0, 0).quant = 0;
+  EXPECT_THROW((void)totali_giorno(m, 1, 0), Errore);
+  EXPECT_THROW((void)totali_giorno(m, 5, 0), Errore);
+}
+
+TEST_F(RicercaVera, AutomaticSelectionTakesSimpleFoods) {
+  Archivio dati(percorso(u"dati.tmp"_s)), base_vera(percorso(u"sa_dieta.jed"_s));
+  const auto gruppi = [&](const char* dove) {
+    std::set<int> g;
+    for (const Riga& r :
+         dati.righe(u"SELECT DISTINCT cod1 FROM alimenti_spuntati WHERE "_s + QString::fromUtf8(dove))) {
+      g.insert(r[u"cod1"].toInt());
+    }
+    return g;
+  };
+  const std::set<int> semplici{4, 6, 8, 11, 13, 14, 15, 18, 22};
+  EXPECT_EQ(gruppi("pasto=4 AND ok"), semplici);
+  EXPECT_EQ(gruppi("pasto=6 AND ok"), semplici);
+  EXPECT_EQ(gruppi("pasto=6").size(), 19U) << "the other groups are offered too, for the dietitian to accept";
+  EXPECT_TRUE(gruppi("pasto=2 AND ok").empty());
+  EXPECT_TRUE(gruppi("pasto=1 AND ok AND (cod4=5 OR (cod4=2 AND cod3=1))").empty());
+  EXPECT_TRUE(gruppi("pasto IN (3, 5) AND ok AND cod4=1").empty());
+  EXPECT_TRUE(gruppi("abb_OK IS NULL OR abb_LV IS NULL OR abb_SD IS NULL OR abb_OK <> abb_SD").empty());
+  seleziona_automatico(dati, base_vera, true);
+  EXPECT_EQ(gruppi("pasto=4"), (std::set<int>{7, 15, 18, 19, 21}));
+  EXPECT_TRUE(gruppi("pasto=4 AND ok AND cod1=21 AND cod4=2").empty());
+  const auto caselle = dati.righe(u"SELECT * FROM checkAlimentiSpuntati"_s);
+  ASSERT_EQ(caselle.size(), 1U);
+  EXPECT_EQ(caselle[0][u"CheckPranzo"].toString(), u"5;"_s);
+  EXPECT_EQ(caselle[0][u"CheckCena"].toString(), u"1;3;5;6;8;12;13;15;16;17;"_s);
+}

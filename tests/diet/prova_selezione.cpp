@@ -1,0 +1,224 @@
+// The draws of foods, followed number by number.
+#include "base/errori.h"
+#include "diet/banco.h"
+#include "diet/selezione.h"
+#include "stampa.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Selezione : public Banco {
+ protected:
+  Contesto contesto(const Caso& caso) {
+    Contesto c{m, {}, {}, caso};
+    c.archivi.apri_archivio_dieta(1);
+    Archivio dati(percorso(u"dati.tmp"_s));
+    c.spuntati.leggi(dati);
+    return c;
+  }
+  std::vector<int> pasto() const {
+    std::vector<int> codici;
+    for (int i = 0; i < m.conta_voci; ++i) {
+      const voce_pasto& v = m.pasto_lavoro[static_cast<std::size_t>(i)];
+      codici.push_back(v.cod1 * 100 + v.cod2);
+    }
+    return codici;
+  }
+  using Codici = std::vector<int>;
+};
+
+template <class F>
+int numero_errore(F&& f) {
+  try {
+    f();
+  } catch (const Errore& e) {
+    return e.numero;
+  }
+  return 0;
+}
+
+}  // namespace
+
+TEST_F(Selezione, AFoodComesAtItsStandardPortionInKilocalories) {
+  base({{8, 3, 4, 1, 151, 20.5, 7.3, 0.5, true, 90}});
+  cliente({});
+  Estrazioni e;
+  Contesto c = contesto(e.caso);
+  aggiungi_alimento(c, 8, 3);
+  aggiungi_alimento(c, 8, 99);
+  ASSERT_EQ(m.conta_voci, 1) << "a food that the store lacks adds nothing";
+  const voce_pasto& v = m.pasto_lavoro[0];
+  EXPECT_EQ(v.cal, 136);  // 90 x 151 / 100 = 135.9
+  EXPECT_FLOAT_EQ(v.prot, 73.8F);
+  EXPECT_FLOAT_EQ(v.lip, 59.13F);
+  EXPECT_FLOAT_EQ(v.gluc, 1.8F);
+  EXPECT_EQ(v.quant, 90);
+  EXPECT_TRUE(v.unico);
+  EXPECT_TRUE(m.usati_cod4[8][1] && m.usati_cod3[4]);
+  for (int i = 0; i < 15; ++i) aggiungi_alimento(c, 8, 3);
+  EXPECT_EQ(numero_errore([&] { aggiungi_alimento(c, 8, 3); }), 9) << "the seventeenth food";
+  EXPECT_EQ(m.conta_voci, 16);
+}
+
+TEST_F(Selezione, ALightMealTakesABaseFoodAndPerhapsItsCompanion) {
+  base({{1, 1, 0, 1, 60, 3, 3, 5}, {1, 2, 0, 1, 40, 3, 1, 5}, {1, 3, 0, 3, 80, 3, 1, 15}, {1, 4, 0, 4, 30, 0, 0, 7}});
+  cliente({{1, 1, 0, 1, 1}, {1, 2, 0, 1, 1}, {1, 3, 0, 3, 1, "ok", "4,9,"}, {1, 4, 0, 4, 1}, {1, 5, 0, 5, 1, "LV"}});
+  struct Esempio {
+    const char* che;
+    std::vector<std::pair<int, int>> estrazioni;
+    bool trovato;
+    Codici pasto;
+    int errore = 0;
+  };
+  for (const Esempio& c : {
+           Esempio{"second food of sub-group 1", {{1, 6}, {2, 2}}, true, {102}},
+           {"bread with the first companion", {{3, 6}, {1, 1}, {1, 2}}, true, {103, 104}},
+           {"companions of a breakfast are no base food; 5 is not accepted",
+            {{4, 6}, {5, 6}, {1, 6}, {1, 2}},
+            true,
+            {101}},
+           {"a companion that is not offered: the base food stays, the draw fails",
+            {{3, 6}, {1, 1}, {2, 2}},
+            false,
+            {103},
+            3021},
+       }) {
+    m.svuota_pasto();
+    Estrazioni e;
+    for (const auto& [quale, n] : c.estrazioni) e.prossima(quale, n);
+    Contesto k = contesto(e.caso);
+    bool trovato = false;
+    EXPECT_EQ(numero_errore([&] { trovato = scegli_pasto_leggero(k, 0, 1); }), c.errore) << c.che;
+    EXPECT_EQ(trovato, c.trovato) << c.che;
+    EXPECT_EQ(pasto(), c.pasto) << c.che;
+    EXPECT_TRUE(e.attese.empty()) << c.che;
+  }
+}
+
+TEST_F(Selezione, AHitOnTheEleventhDrawOfASubgroupIsLost) {
+  base({{3, 1, 0, 1, 60, 3, 3, 5}});
+  cliente({{3, 1, 0, 1, 3}});
+  for (const int a_vuoto : {9, 10}) {
+    m.svuota_pasto();
+    Estrazioni e;
+    for (int i = 0; i < a_vuoto; ++i) e.prossima(2, 6);
+    e.prossima(1, 6);
+    if (a_vuoto == 9) e.prossima(1, 1);
+    Contesto c = contesto(e.caso);
+    EXPECT_EQ(scegli_pasto_leggero(c, 1, 3), a_vuoto == 9);
+    EXPECT_TRUE(e.attese.empty());
+  }
+}
+
+TEST_F(Selezione, CompanionLists) {
+  struct Esempio {
+    QString lista;
+    int conta, quale, valore;
+  };
+  for (const Esempio& c : {Esempio{u"7,12,3,"_s, 3, 2, 12}, {u"7,12,3,"_s, 3, 3, 3}, {u"7,12"_s, 1, 1, 7}}) {
+    Estrazioni e;
+    e.prossima(c.quale, c.conta);
+    EXPECT_EQ(scegli_abbinamento(e.caso, c.lista), c.valore);
+    EXPECT_EQ(conta_abbinamenti(c.lista), c.conta);
+  }
+  Estrazioni e;
+  for (const QString& lista : {u""_s, u"12"_s}) EXPECT_EQ(scegli_abbinamento(e.caso, lista), 0) << "no comma, no draw";
+}
+
+TEST_F(Selezione, AGroupGivesABaseFoodAndOneCompanion) {
+  const std::vector<Cibo> cibi{{4, 1, 2, 1, 100, 1, 1, 1}, {4, 2, 2, 1, 100, 1, 1, 1}, {4, 3, 0, 2, 100, 1, 1, 1},
+                               {4, 4, 0, 2, 100, 1, 1, 1}, {4, 5, 0, 3, 100, 1, 1, 1}, {4, 6, 0, 3, 100, 1, 1, 1}};
+  base(cibi);
+  struct Esempio {
+    const char* che;
+    const char* abbinamenti;  // of the base food drawn, 4.2
+    std::vector<std::pair<int, int>> estrazioni;
+    Codici pasto;
+    int errore = 0;
+  };
+  for (const Esempio& c : {
+           Esempio{"the second companion is drawn, but its rows are gone",
+                   "3,4,",
+                   {{2, 2}, {2, 2}, {1, 2}},
+                   {402, 404},
+                   3420},
+           {"a list of one reaches the first companion alone", "4,", {{2, 2}, {1, 1}, {1, 2}}, {402, 403}, 3420},
+           {"no list: a third kind, counted without the second's rows", "", {{2, 2}, {2, 2}}, {402, 404}},
+       }) {
+    m.svuota_pasto();
+    cliente({{4, 1, 2, 1, 4},
+             {4, 2, 2, 1, 4, "ok", c.abbinamenti},
+             {4, 3, 0, 2, 4},
+             {4, 4, 0, 2, 4},
+             {4, 5, 0, 3, 4},
+             {4, 6, 0, 3, 4}});
+    Estrazioni e;
+    for (const auto& [quale, n] : c.estrazioni) e.prossima(quale, n);
+    Contesto k = contesto(e.caso);
+    EXPECT_EQ(numero_errore([&] { carica_gruppo(k, 4, 2, 0, false); }), c.errore) << c.che;
+    EXPECT_EQ(pasto(), c.pasto) << c.che;
+    EXPECT_TRUE(e.attese.empty()) << c.che;
+  }
+}
+
+TEST_F(Selezione, WhichFoodsFillACourse) {
+  base({{8, 1, 4, 1, 100, 1, 1, 1}});
+  cliente({{8, 1, 4, 1, 4}, {11, 1, 4, 1, 4, "LV"}, {13, 1, 4, 1, 4, "ok SD"}, {8, 1, 4, 1, 6}, {18, 1, 4, 1, 6}});
+  struct Esempio {
+    const char* che;
+    int m, d;
+    bool fisso, veloce;
+    QString tipo_errore;
+    std::vector<int> gruppi;  // every possible answer
+  };
+  for (const Esempio& c : {
+           Esempio{"free foods of a weekday lunch", 2, 0, false, false, {}, {8, 13}},
+           {"obligatory Monday to Friday", 2, 4, true, false, {}, {11}},
+           {"obligatory Saturday and Sunday", 2, 5, true, false, {}, {13}},
+           {"dinner has its own list", 4, 0, false, false, {}, {8, 18}},
+           {"weekend lunch of a fast-food client: the dinner's list", 2, 6, false, true, {}, {8, 18}},
+           {"weekday lunch of a fast-food client: the lunch's", 2, 4, false, true, {}, {8, 13}},
+           {"after protein errors no meat", 2, 0, false, false, u"P"_s, {13}},
+           {"after fat errors no vegetables", 2, 0, false, false, u"L"_s, {8}},
+           {"after calorie errors nothing is left here", 2, 0, false, false, u"K"_s, {0}},
+           {"an obligatory food ignores the errors", 2, 5, true, false, u"K"_s, {13}},
+       }) {
+    m.pranzo_ff = c.veloce;
+    m.tipo_errore = c.tipo_errore;
+    const int n = static_cast<int>(c.gruppi.size());
+    for (int i = 1; i <= n; ++i) {
+      Estrazioni e;
+      if (c.gruppi.front() != 0) e.prossima(i, n);
+      Contesto k = contesto(e.caso);
+      EXPECT_EQ(scegli_gruppo(k, 4, c.m, c.d, c.fisso), c.gruppi[static_cast<std::size_t>(i - 1)]) << c.che;
+    }
+  }
+}
+
+TEST_F(Selezione, AFoodServesTwoLunchesAndDinnersRepeatFreely) {
+  base({{8, 1, 4, 1, 100, 1, 1, 1}});
+  cliente({{8, 1, 4, 1, 4}, {8, 1, 4, 1, 6}, {9, 1, 4, 1, 4, "ok LV"}});
+  Estrazioni e;
+  Contesto c = contesto(e.caso);
+  Archivio dati(percorso(u"dati.tmp"_s));
+  for (int volta = 0; volta < 2; ++volta) {
+    for (const int pasto : {2, 4}) c.spuntati.conta_uso_alimenti(dati, {{8, 1}, {9, 1}}, pasto);
+  }
+  const auto libero = [&](int meal, int d, bool veloce) {
+    m.pranzo_ff = veloce;
+    e.attese = {0.0};
+    const int gruppo = scegli_gruppo(c, 4, meal, d, false);
+    e.attese.clear();
+    return gruppo;
+  };
+  EXPECT_EQ(libero(2, 0, false), 9) << "twice at lunch is enough; obligatory foods are not counted";
+  EXPECT_EQ(libero(4, 0, false), 8) << "dinner reads a counter that dinners do not write";
+  EXPECT_EQ(libero(2, 5, true), 0) << "the fast-food client's weekend lunch is held by the dinners' count";
+  const auto scritti = dati.righe(u"SELECT n_volte_pranzo p, n_volte_cena c FROM alimenti_spuntati ORDER BY rowid"_s);
+  EXPECT_EQ(scritti[0][u"p"].toInt() * 10 + scritti[0][u"c"].toInt(), 20);
+  EXPECT_EQ(scritti[1][u"p"].toInt() * 10 + scritti[1][u"c"].toInt(), 2);
+  EXPECT_EQ(scritti[2][u"p"].toInt() * 10 + scritti[2][u"c"].toInt(), 0);
+  c.spuntati.azzera_n_volte(dati);
+  EXPECT_EQ(libero(2, 0, false), 8);
+}
