@@ -1,0 +1,99 @@
+#include "core/aspetto.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFont>
+#include <QIcon>
+#include <QStyle>
+#include <QStyleFactory>
+
+using namespace Qt::StringLiterals;
+
+void imposta_aspetto(QApplication& app) {
+  Q_INIT_RESOURCE(pictures);
+  app.setStyle(QStyleFactory::create(u"Fusion"_s));
+  app.setPalette(app.style()->standardPalette());
+  QFont carattere(u"Liberation Sans"_s);
+  carattere.setPixelSize(11);
+  app.setFont(carattere);
+  QFile foglio(u":/pictures/orzaline.qss"_s);
+  if (foglio.open(QIODevice::ReadOnly)) app.setStyleSheet(QString::fromUtf8(foglio.readAll()));
+}
+
+QIcon icona(const QString& nome) { return QIcon(u":/pictures/"_s + nome + u".svg"_s); }
+
+Cornice cornice(const QString& titolo) {
+  auto* box = new QGroupBox(titolo);
+  auto* griglia = new QGridLayout(box);
+  griglia->setContentsMargins(8, 6, 8, 8);
+  griglia->setHorizontalSpacing(6);
+  griglia->setVerticalSpacing(3);
+  return {box, griglia};
+}
+
+QLabel* etichetta_di(const QString& testo, QWidget* controllo) {
+  auto* e = new QLabel(testo);
+  e->setBuddy(controllo);
+  controllo->setAccessibleName(testo);
+  return e;
+}
+
+QLabel* riga(QGridLayout& griglia, int riga, const QString& etichetta, QWidget* controllo, int colonna) {
+  QLabel* e = etichetta_di(etichetta, controllo);
+  griglia.addWidget(e, riga, colonna - 1);
+  griglia.addWidget(controllo, riga, colonna);
+  return e;
+}
+
+namespace {
+
+QLabel* con_ruolo(const QString& testo, const QString& ruolo) {
+  auto* e = new QLabel(testo);
+  e->setProperty("ruolo", ruolo);
+  return e;
+}
+
+}  // namespace
+
+QLabel* testa(const QString& testo) {
+  QLabel* e = con_ruolo(testo, u"testa"_s);
+  e->setAlignment(Qt::AlignCenter);
+  return e;
+}
+
+QLabel* guida(const QString& testo) {
+  QLabel* e = con_ruolo(testo, u"guida"_s);
+  e->setWordWrap(true);
+  return e;
+}
+
+QLineEdit* campo_numero(const QString& nome, const QString& suggerimento, int larghezza) {
+  auto* c = nominato(new QLineEdit, nome, suggerimento);
+  c->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  c->setFixedWidth(larghezza);
+  return c;
+}
+
+QLineEdit* campo_calcolato(const QString& nome, int larghezza, Qt::Alignment verso) {
+  QLineEdit* c = campo_numero(nome, {}, larghezza);
+  c->setAlignment(verso | Qt::AlignVCenter);
+  c->setReadOnly(true);
+  c->setFocusPolicy(Qt::ClickFocus);
+  return c;
+}
+
+QPushButton* pulsante(const QString& nome, const QString& scritta, const QString& suggerimento,
+                      const QString& nome_icona) {
+  auto* b = nominato(new QPushButton(scritta), nome, suggerimento);
+  if (!nome_icona.isEmpty()) b->setIcon(icona(nome_icona));
+  return b;
+}
+
+QHBoxLayout* barra(const QList<QWidget*>& a_sinistra, const QList<QWidget*>& a_destra) {
+  auto* fila = new QHBoxLayout;
+  fila->setSpacing(6);
+  for (QWidget* w : a_sinistra) fila->addWidget(w);
+  fila->addStretch();
+  for (QWidget* w : a_destra) fila->addWidget(w);
+  return fila;
+}

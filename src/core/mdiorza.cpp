@@ -1,0 +1,184 @@
+#include "core/mdiorza.h"
+
+#include "base/archivio.h"
+#include "base/errori.h"
+#include "core/apertura.h"
+#include "core/dialoghi.h"
+#include "core/forminfo.h"
+#include "core/messaggi.h"
+#include "core/programma.h"
+#include "core/regole.h"
+#include "core/salvataggio.h"
+#include "core/sessione.h"
+#include "core/stadi.h"
+
+#include <QCloseEvent>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize misura{800, 613};
+constexpr QPoint posto_iniziale{133, 67};
+
+/// The help document of each stage.
+const std::map<QString, QString> guide{
+    {u"0"_s, u"02_Guida_Anagrafica"_s}, {u"3"_s, u"03_Guida_DatiPersonali"_s}, {u"4"_s, u"04_Guida_anPatologica"_s},
+    {u"5"_s, u"05_Guida_Antropo"_s},    {u"6"_s, u"10_Guida_Attività"_s},      {u"9"_s, u"06_Guida_DiarioAlim"_s},
+    {u"7"_s, u"07_Guida_SceltAlim"_s},  {u"8"_s, u"08_Guida_Elaboraz"_s},      {u"10"_s, u"09_Guida_Trattam"_s},
+};
+
+void apri_da_disco() {
+  const QString file = esterno().scegli_file(u"Apri il file di un cliente"_s, percorso(u"esempi"_s),
+                                             u"Clienti di Orzaline (*.orzaline)"_s);
+  if (!file.isEmpty()) apri_file_cliente(file);
+}
+
+void chiudi_da_menu() {
+  scarica_schede_da_menu();
+  elimina_dati_tmp();
+  schermata<Mdiorza>().segui_cliente(false);
+}
+
+void chiedi_chiusura() {
+  if (domanda(u"Si sta uscendo dall'archivio del soggetto.\nSono stati salvati i dati inseriti ?"_s, titolo_programma(),
+              Icona::informazione)) {
+    chiudi_cliente();
+  }
+}
+
+void informazioni_di_sistema() {
+  for (const QString& nome : {u"hardinfo2"_s, u"hardinfo"_s}) {
+    const QString programma = QStandardPaths::findExecutable(nome);
+    if (!programma.isEmpty() && QProcess::startDetached(programma, {})) return;
+  }
+  messaggio(u"Le informazioni di sistema non sono disponibili !!"_s);
+}
+
+}  // namespace
+
+Mdiorza::Mdiorza() {
+  disegna();
+  collega_regole();
+  ospita_con({[this](QWidget& s, const RegoleFiglia& r) { ospita(s, r); }, [this](QWidget& s) { congeda(s); }});
+}
+
+Mdiorza::~Mdiorza() {
+  ospita_con({});
+  while (!figlie_.empty()) congeda(*figlie_.begin()->first);
+}
+
+void Mdiorza::al_caricamento() {
+  setWindowTitle(u"ORZALINE  -  "_s + leggi_studio(1));
+  Statusbar->hide();
+  disabilita_stadi();
+  segui_cliente(false);
+  if (screen()->size() == QSize(800, 600)) {
+    setWindowState(Qt::WindowMaximized);
+  } else {
+    move(posto_iniziale);
+    resize(misura);
+  }
+}
+
+void Mdiorza::collega_regole() {
+  collega_menu();
+  collega_barra();
+  al_cambio(qualeform, cambia_qualeform);
+  al_clic(Command1[0], indietro);
+  al_clic(Command1[1], avanti);
+  al_clic(Command2[0], chiedi_chiusura);
+  al_clic(Command2[1], salvataggio_generale);
+  // Only a child in front counts: the switch to another program or to a box is no change of screen.
+  connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* finestra) {
+    if (finestra && !ospitando_) esegui_regola([&] { porta_davanti(finestra->widget()); });
+  });
+}
+
+void Mdiorza::collega_menu() {
+  al_comando(menuchiudi, chiudi_da_menu);
+  al_comando(uscita, [this] { chiedi_uscita(); });
+  al_comando(impstamp, [] { esterno().imposta_stampante(stampante()); });
+  al_comando(menuaiuto, [this] { apriGuida(); });
+  al_comando(menuinfo, mostra<Forminfo>);
+  al_comando(info, informazioni_di_sistema);
+}
+
+void Mdiorza::collega_barra() {
+  al_clic(cmdsopra[0], apri_da_disco);
+  for (const Stadio& s : stadi()) al_clic(cmdsopra[s.pulsante], [&s] { salta_a(s); });
+  al_clic(cmdsopra[13], [this] { apriGuida(); });
+  al_clic(cmdsopra[14], [this] { chiedi_uscita(); });
+}
+
+void Mdiorza::apriGuida() {
+  if (Statusbar->isHidden()) {
+    guida_ = u"00_Guida_Premessa"_s;
+  } else if (const auto g = guide.find(qualeform.text()); g != guide.end()) {
+    guida_ = g->second;
+  }
+  if (guida_.isEmpty()) return;
+  const QString file = percorso(u"help/"_s + guida_ + u".doc"_s);
+  if (!QFile::exists(file)) throw Errore(53, "Impossibile trovare il file " + file.toStdString());
+  if (!esterno().apri_documento(file)) throw Errore(429, "Nessun programma apre il documento " + file.toStdString());
+}
+
+bool Mdiorza::chiedi_uscita() {
+  if (!domanda(u"Sei sicuro di voler uscire dal programma ?"_s, u"Orzaline control"_s)) return false;
+  elimina_dati_tmp();
+  QCoreApplication::exit();
+  return true;
+}
+
+void Mdiorza::segui_cliente(bool aperto) {
+  Command2[1]->setEnabled(aperto);
+  if (aperto) return;
+  for (QPushButton* b : Command1) b->setEnabled(false);
+}
+
+void Mdiorza::closeEvent(QCloseEvent* evento) {
+  evento->ignore();
+  esegui_regola([&] { evento->setAccepted(chiedi_uscita()); });
+}
+
+void Mdiorza::resizeEvent(QResizeEvent* evento) {
+  QMainWindow::resizeEvent(evento);
+  if (!(windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen))) setFixedSize(misura);
+}
+
+void Mdiorza::ospita(QWidget& schermo, const RegoleFiglia& regole) {
+  ospitando_ = true;
+  figlie_.try_emplace(&schermo, regole);
+  auto* finestra = qobject_cast<QMdiSubWindow*>(schermo.parentWidget());
+  if (!finestra) finestra = incornicia(schermo);
+  finestra->show();
+  schermo.show();
+  area_->setActiveSubWindow(finestra);
+  ospitando_ = false;
+  porta_davanti(&schermo);
+}
+
+void Mdiorza::congeda(QWidget& schermo) {
+  if (figlie_.erase(&schermo) == 0) return;
+  ospitando_ = true;
+  auto* finestra = qobject_cast<QMdiSubWindow*>(schermo.parentWidget());
+  schermo.setParent(nullptr);
+  delete finestra;
+  ospitando_ = false;
+  if (davanti_ != &schermo) return;
+  davanti_ = nullptr;
+  const auto rimaste = area_->subWindowList(QMdiArea::StackingOrder);
+  if (!rimaste.isEmpty()) porta_davanti(rimaste.last()->widget());
+}
+
+void Mdiorza::porta_davanti(QWidget* schermo) {
+  if (davanti_ == schermo) return;
+  const auto prima = figlie_.find(std::exchange(davanti_, schermo));
+  if (prima != figlie_.end() && prima->second.disattivazione) prima->second.disattivazione();
+  figlie_.at(schermo).attivazione();
+}

@@ -1,0 +1,45 @@
+#include "core/messaggi.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QMessageBox>
+#include <utility>
+
+namespace {
+
+QMessageBox::Icon icona_qt(Icona icona) {
+  switch (icona) {
+    case Icona::informazione: return QMessageBox::Information;
+    case Icona::esclamazione: return QMessageBox::Warning;
+    case Icona::critica: return QMessageBox::Critical;
+    case Icona::domanda: return QMessageBox::Question;
+    case Icona::nessuna: break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+constexpr std::pair<QMessageBox::StandardButton, QStringView> scritte[]{
+    {QMessageBox::Ok, u"OK"}, {QMessageBox::Yes, u"&Sì"}, {QMessageBox::No, u"&No"}};
+
+bool finestra(const Riquadro& r) {
+  QMessageBox box(icona_qt(r.icona), r.titolo, r.testo, r.scelta ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok,
+                  QApplication::activeWindow());
+  for (const auto& [quale, scritta] : scritte) {
+    if (QAbstractButton* b = box.button(quale)) b->setText(scritta.toString());
+  }
+  return box.exec() == QMessageBox::Yes;
+}
+
+Interlocutore interlocutore = finestra;
+
+}  // namespace
+
+void messaggio(const QString& testo, const QString& titolo, Icona icona) {
+  interlocutore({testo, titolo, icona, false});
+}
+
+bool domanda(const QString& testo, const QString& titolo, Icona icona) {
+  return interlocutore({testo, titolo, icona, true});
+}
+
+Interlocutore parla_con(Interlocutore nuovo) { return std::exchange(interlocutore, std::move(nuovo)); }

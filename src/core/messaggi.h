@@ -1,0 +1,15 @@
+// Message boxes behind one seam, so that a test can answer them and assert their exact words.
+#pragma once
+
+#include "base/riquadro.h"
+
+#include <functional>
+
+void messaggio(const QString& testo, const QString& titolo = {}, Icona icona = Icona::nessuna);
+
+/// True for Yes alone; closing the box counts as No.
+[[nodiscard]] bool domanda(const QString& testo, const QString& titolo = {}, Icona icona = Icona::domanda);
+
+/// Who shows the boxes: QMessageBox unless a test steps in. Returns the former one.
+using Interlocutore = std::function<bool(const Riquadro&)>;
+Interlocutore parla_con(Interlocutore nuovo);

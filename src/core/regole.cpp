@@ -1,0 +1,79 @@
+#include "core/regole.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QSignalBlocker>
+#include <memory>
+
+namespace {
+
+/// Watches the events of one object and dies with it.
+class Guardia : public QObject {
+ public:
+  Guardia(QObject* guardato, std::function<void(QEvent*)> vista) : QObject(guardato), vista_(std::move(vista)) {
+    guardato->installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* evento) override {
+    vista_(evento);
+    return false;
+  }
+
+ private:
+  std::function<void(QEvent*)> vista_;
+};
+
+/// Runs a list's rule once where a choice arrives as two signals: "another line" and "chosen". `nuova` tells that
+/// the first has come since the user's last touch of the list.
+struct Scelta {
+  std::function<void()> regola;
+  bool nuova = false;
+
+  void cambiata() {
+    nuova = true;
+    regola();
+  }
+  void scelta() {
+    if (!std::exchange(nuova, false)) regola();
+  }
+};
+
+std::shared_ptr<Scelta> scelta_su(QObject* toccato, std::function<void()> regola) {
+  auto s = std::make_shared<Scelta>(Scelta{std::move(regola)});
+  new Guardia(toccato, [s](QEvent* e) {
+    if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::KeyPress || e->type() == QEvent::Wheel) {
+      s->nuova = false;
+    }
+  });
+  return s;
+}
+
+}  // namespace
+
+void dettaglio::clic_di_lista(QComboBox* lista, std::function<void()> regola) {
+  auto s = scelta_su(lista, std::move(regola));
+  QObject::connect(lista, &QComboBox::currentIndexChanged, lista, [s] { s->cambiata(); });
+  QObject::connect(lista, &QComboBox::activated, lista, [s] { s->scelta(); });
+}
+
+void dettaglio::clic_di_lista(QListWidget* lista, std::function<void()> regola) {
+  auto s = scelta_su(lista->viewport(), std::move(regola));
+  QObject::connect(lista, &QListWidget::currentRowChanged, lista, [s, lista](int riga) {
+    // The focus alone makes the first line current without choosing it.
+    if (riga < 0 || lista->item(riga)->isSelected()) s->cambiata();
+  });
+  QObject::connect(lista, &QListWidget::itemClicked, lista, [s] { s->scelta(); });
+}
+
+void dettaglio::su_doppio_clic(QWidget* controllo, std::function<void()> regola) {
+  auto* vista = qobject_cast<QAbstractItemView*>(controllo);
+  new Guardia(vista ? vista->viewport() : controllo, [regola = std::move(regola)](QEvent* e) {
+    if (e->type() == QEvent::MouseButtonDblClick) regola();
+  });
+}
+
+void riempi_lista(QComboBox* lista, const QStringList& righe) {
+  const QSignalBlocker muta(lista);
+  lista->clear();
+  lista->addItems(righe);
+  lista->setCurrentIndex(-1);
+}

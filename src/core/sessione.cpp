@@ -1,0 +1,123 @@
+#include "core/sessione.h"
+
+#include "base/errori.h"
+#include "base/file.h"
+#include "core/mdiorza.h"
+#include "core/messaggi.h"
+#include "diet/formelabora.h"
+
+#include <QDir>
+#include <QFile>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Archivi {
+  std::optional<Archivio> dati;
+  std::optional<Archivio> schede;
+};
+
+Archivi& archivi() {
+  static Archivi a;
+  return a;
+}
+
+QString file_dati() { return percorso(u"dati.tmp"_s); }
+
+void apri_o_crea() {
+  if (!esiste_dati_tmp()) sostituisci_file(percorso(u"matrix.jed"_s), file_dati());
+  archivi().dati.emplace(file_dati());
+}
+
+/// A screen of a client's, in the order in which they are closed and so write their sections.
+struct Chiusura {
+  void (*scarica)();
+  bool da_menu;
+};
+
+constexpr Chiusura chiusure[]{
+    {scarica<Formelabora>, true},
+};
+
+/// client number, "_", first word of the surname
+QString nome_cliente() {
+  const Mdiorza& m = schermata<Mdiorza>();
+  return m.Txtcod->text() + u'_' + m.Txtsoggetto->text().trimmed().section(u' ', 0, 0);
+}
+
+}  // namespace
+
+void apri_dati_tmp(Scopo scopo) {
+  if (archivi().dati) return;
+  if (scopo == Scopo::salvare) return apri_o_crea();
+  if (!prosegui(apri_o_crea)) {
+    messaggio(u"Problemi nella creazione dei files temporanei, chiudere i files usati da Orzaline !"_s);
+  }
+}
+
+Archivio& dati_tmp() {
+  if (!archivi().dati) throw Errore(91, "Variabile oggetto non impostata");
+  return *archivi().dati;
+}
+
+void apri_schedario() {
+  if (!archivi().schede) archivi().schede.emplace(percorso(u"fc.jed"_s));
+}
+
+Archivio& schedario() {
+  apri_schedario();
+  return *archivi().schede;
+}
+
+void chiudi_archivi() {
+  archivi().schede.reset();
+  archivi().dati.reset();
+}
+
+bool esiste_dati_tmp() { return QFile::exists(file_dati()); }
+
+void elimina_dati_tmp() {
+  chiudi_archivi();
+  elimina_archivio(file_dati());
+}
+
+QString percorso_cliente() {
+  const QString nome = nome_cliente();
+  return QDir(percorso(nome)).filePath(nome + u".orzaline"_s);
+}
+
+QString salva_su_file_cliente() {
+  const QString file = percorso_cliente();
+  const QString cartella = QFileInfo(file).absolutePath();
+  if (!QDir().mkpath(cartella)) throw Errore(75, "Impossibile creare la cartella " + cartella.toStdString());
+  chiudi_archivi();
+  sostituisci_file(file_dati(), file);
+  return file;
+}
+
+void chiudi_cliente() {
+  scarica_schede();
+  elimina_dati_tmp();
+  azzera_banner();
+  schermata<Mdiorza>().segui_cliente(false);
+}
+
+void azzera_banner() {
+  Mdiorza& m = schermata<Mdiorza>();
+  for (QLineEdit* campo : {m.Txtcod, m.Txtetà, m.Txtpeso}) campo->clear();
+  m.LabPesoOld.setText({});
+  for (QLineEdit* campo : {m.Txtsesso, m.Txtsoggetto, m.Txtstatura, m.Txtbmi}) campo->clear();
+  dieta_caricata = false;
+}
+
+void scarica_schede() {
+  for (const Chiusura& c : chiusure) c.scarica();
+}
+
+void scarica_schede_da_menu() {
+  for (const Chiusura& c : chiusure) {
+    if (c.da_menu) c.scarica();
+  }
+}

@@ -1,0 +1,81 @@
+#include "core/stadi.h"
+
+#include "base/numeri.h"
+#include "core/mdiorza.h"
+#include "core/sessione.h"
+#include "diet/formelabora.h"
+
+#include <QApplication>
+#include <algorithm>
+
+namespace {
+
+constexpr Stadio percorso_stadi[]{
+    {0, 1, u"Scheda Anagrafica", true, nullptr, nullptr},
+    {3, 2, u"Dati personali", true, nullptr, nullptr},
+    {4, 8, u"Anamnesi patologica", true, nullptr, nullptr},
+    {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
+    {9, 7, u"Diario alimentare", true, nullptr, nullptr},
+    {1, 15, u"Attività fisica", false, nullptr, nullptr},
+    {7, 4, u"Selezione alimenti", true, nullptr, nullptr},
+    {8, 5, u"Elaborazione", true, mostra<Formelabora>, scarica<Formelabora>},
+    {10, 6, u"Controlli", true, nullptr, nullptr},
+};
+
+void abilita(bool si) {
+  for (const Stadio& s : stadi()) schermata<Mdiorza>().cmdsopra[s.pulsante]->setEnabled(si && s.apri);
+}
+
+/// The stage `passo` places along the path from this one; null beyond its ends.
+const Stadio* vicino(const Stadio& da, std::ptrdiff_t passo) {
+  const auto i = &da - percorso_stadi + passo;
+  return i < 0 || i >= std::ssize(percorso_stadi) ? nullptr : &percorso_stadi[i];
+}
+
+void muovi(std::ptrdiff_t passo) {
+  const Stadio* qui = stadio(schermata<Mdiorza>().qualeform.text());
+  if (!qui) return;
+  const Stadio* altro = vicino(*qui, passo);
+  if (!altro) return QApplication::beep();
+  if (!altro->apri) return;
+  qui->chiudi();
+  altro->apri();
+}
+
+void segui_stadio(Mdiorza& m, const Stadio& qui) {
+  m.cmdsopra[qui.pulsante]->setChecked(true);
+  if (qui.prende_fuoco) m.cmdsopra[qui.pulsante]->setFocus();
+  const Stadio* vicini[]{vicino(qui, -1), vicino(qui, 1)};
+  for (std::size_t i = 0; i < m.Command1.size(); ++i) m.Command1[i]->setEnabled(!vicini[i] || vicini[i]->apri);
+}
+
+}  // namespace
+
+std::span<const Stadio> stadi() { return percorso_stadi; }
+
+const Stadio* stadio(const QString& codice) {
+  const auto s =
+      std::ranges::find_if(percorso_stadi, [&](const Stadio& x) { return QString::number(x.codice) == codice; });
+  return s == std::end(percorso_stadi) ? nullptr : &*s;
+}
+
+void cambia_qualeform() {
+  Mdiorza& m = schermata<Mdiorza>();
+  for (const Stadio& s : stadi()) m.cmdsopra[s.pulsante]->setChecked(false);
+  const bool aperto = valore(m.qualeform.text()) >= 0;
+  m.Statusbar->setVisible(aperto);
+  abilita(aperto);
+  const Stadio* qui = stadio(m.qualeform.text());
+  if (qui) segui_stadio(m, *qui);
+}
+
+void abilita_stadi() { abilita(true); }
+void disabilita_stadi() { abilita(false); }
+
+void avanti() { muovi(1); }
+void indietro() { muovi(-1); }
+
+void salta_a(const Stadio& stadio) {
+  scarica_schede();
+  stadio.apri();
+}
