@@ -17,4 +17,4 @@ CREATE TABLE alimenti (
   pranzo INTEGER NOT NULL DEFAULT 0 CHECK (pranzo IN (0, 1)),
   cena INTEGER NOT NULL DEFAULT 0 CHECK (cena IN (0, 1)),
   PRIMARY KEY (cod1, cod2)
-);
+) WITHOUT ROWID; -- the foods lie in the order in which they are read

@@ -17,6 +17,7 @@ class Ambiente : public ::testing::Test {
     for (const QString& nome : origine.entryList({QStringLiteral("*.jed"), QStringLiteral("*.chk")})) {
       QFile::copy(origine.filePath(nome), cartella.filePath(nome));
     }
+    QDir(cartella.path()).mkdir(QStringLiteral("help"));
     imposta_cartella(cartella.path());
   }
   ~Ambiente() override {

@@ -14,6 +14,7 @@
 
 #include <QCloseEvent>
 #include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
 #include <QScreen>
@@ -78,6 +79,9 @@ void Mdiorza::al_caricamento() {
   Statusbar->hide();
   disabilita_stadi();
   segui_cliente(false);
+  const bool con_guida = QFileInfo(percorso(u"help"_s)).isDir();
+  menuaiuto->setEnabled(con_guida);
+  cmdsopra[13]->setEnabled(con_guida);
   if (screen()->size() == QSize(800, 600)) {
     setWindowState(Qt::WindowMaximized);
   } else {

@@ -42,7 +42,7 @@ void Formelabora::disegna() {
   Timer1->setInterval(5000);
   Picmemo = nominato(new QLabel(this), u"Picmemo"_s);
   Picmemo->setPixmap(icona(u"memo"_s).pixmap(120, 90));
-  Picmemo->setGeometry(44, 374, 120, 90);
+  Picmemo->setGeometry(597, 160, 120, 90);
   Picmemo->hide();
   colora_righe(-1);
 }
@@ -60,7 +60,8 @@ QWidget* Formelabora::disegna_scelte() {
   sotto(Combo1);
   List1 = nominato(new QListWidget, u"List1"_s, u"Giorno da mostrare"_s);
   List1->addItems({u"Lunedì"_s, u"Martedì"_s, u"Mercoledì"_s, u"Giovedì"_s, u"Venerdì"_s, u"Sabato"_s, u"Domenica"_s});
-  List1->setFixedHeight(7 * 17 + 4);
+  for (int i = 0; i < List1->count(); ++i) List1->item(i)->setSizeHint({0, 17});
+  List1->setFixedHeight(giorni * 17 + 2);
   List1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   sotto(etichetta_di(u"giorno:"_s, List1));
   sotto(List1);

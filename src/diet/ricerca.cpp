@@ -92,7 +92,11 @@ class Elaborazione {
 };
 
 Archivio& Elaborazione::dati() {
-  if (!dati_) dati_.emplace(percorso(u"dati.tmp"_s));
+  if (!dati_) {
+    dati_.emplace(percorso(u"dati.tmp"_s));
+    // Nobody else reads the working copy while the search runs: its locks need not come and go with each meal.
+    dati_->esegui_copione(u"PRAGMA locking_mode = EXCLUSIVE"_s);
+  }
   return *dati_;
 }
 
