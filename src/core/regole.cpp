@@ -1,7 +1,7 @@
 #include "core/regole.h"
 
 #include <QAbstractItemView>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <memory>
 
@@ -62,6 +62,26 @@ void dettaglio::clic_di_lista(QListWidget* lista, std::function<void()> regola) 
     if (riga < 0 || lista->item(riga)->isSelected()) s->cambiata();
   });
   QObject::connect(lista, &QListWidget::itemClicked, lista, [s] { s->scelta(); });
+  // The space bar chooses the line that the focus made current.
+  new Guardia(lista, [s, lista](QEvent* e) {
+    const bool spazio = e->type() == QEvent::KeyRelease && static_cast<QKeyEvent*>(e)->key() == Qt::Key_Space;
+    if (spazio && !lista->selectedItems().isEmpty()) s->scelta();
+  });
+}
+
+/// The true going down or up of mouse or space bar: a held mouse that leaves the button and comes back is neither.
+void dettaglio::su_tasto(QAbstractButton* pulsante, bool giu, std::function<void()> regola) {
+  new Guardia(pulsante, [pulsante, giu, regola = std::move(regola)](QEvent* e) {
+    const auto tipo = e->type();
+    const bool mouse = giu ? tipo == QEvent::MouseButtonPress || tipo == QEvent::MouseButtonDblClick
+                           : tipo == QEvent::MouseButtonRelease;
+    const auto spazio = [e] {
+      const auto* tasto = static_cast<QKeyEvent*>(e);
+      return tasto->key() == Qt::Key_Space && !tasto->isAutoRepeat();
+    };
+    const bool tastiera = tipo == (giu ? QEvent::KeyPress : QEvent::KeyRelease) && spazio();
+    if ((mouse || tastiera) && pulsante->isEnabled()) regola();
+  });
 }
 
 void dettaglio::su_doppio_clic(QWidget* controllo, std::function<void()> regola) {

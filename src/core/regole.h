@@ -32,6 +32,7 @@ auto porta(F regola) {
 }
 void clic_di_lista(QComboBox* lista, std::function<void()> regola);
 void clic_di_lista(QListWidget* lista, std::function<void()> regola);
+void su_tasto(QAbstractButton* pulsante, bool giu, std::function<void()> regola);
 void su_doppio_clic(QWidget* controllo, std::function<void()> regola);
 }  // namespace dettaglio
 
@@ -75,11 +76,11 @@ void al_clic(QListWidget* lista, F regola) {
 
 template <class F>
 void al_pressione(QAbstractButton* c, F regola) {
-  QObject::connect(c, &QAbstractButton::pressed, c, dettaglio::porta(std::move(regola)));
+  dettaglio::su_tasto(c, true, dettaglio::porta(std::move(regola)));
 }
 template <class F>
 void al_rilascio(QAbstractButton* c, F regola) {
-  QObject::connect(c, &QAbstractButton::released, c, dettaglio::porta(std::move(regola)));
+  dettaglio::su_tasto(c, false, dettaglio::porta(std::move(regola)));
 }
 template <class F>
 void al_doppio_clic(QWidget* c, F regola) {

@@ -109,8 +109,14 @@ void Formelabora::scegli_settimana() {
   motore().settimana_corrente = static_cast<std::int16_t>(settimana);
 }
 
+/// The chosen day, -1 for none: the focus alone makes a line current without choosing it.
+int Formelabora::giorno_scelto() const {
+  const auto scelti = List1->selectedItems();
+  return scelti.isEmpty() ? -1 : List1->row(scelti.front());
+}
+
 void Formelabora::scegli_giorno() {
-  const int settimana = Combo1->currentIndex() + 1, giorno = List1->currentRow();
+  const int settimana = Combo1->currentIndex() + 1, giorno = giorno_scelto();
   if (settimana < 1 || giorno < 0) return;
   svuota_risultati();
   colora_righe(-1);
@@ -206,7 +212,7 @@ void Formelabora::scrivi_ideali(int giorno) {
 
 /// A line that fails is passed over: a meal of more than sixteen foods shows the first sixteen and counts them all.
 void Formelabora::mostra_pasto(int pasto) {
-  const int settimana = Combo1->currentIndex() + 1, giorno = List1->currentRow();
+  const int settimana = Combo1->currentIndex() + 1, giorno = giorno_scelto();
   if (settimana < 1 || giorno < 0) return;
   for (QLabel* t : Text1) t->clear();
   for (QLabel* t : Text2) t->clear();

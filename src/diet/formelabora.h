@@ -60,6 +60,7 @@ class Formelabora : public QWidget {
   void colora_righe(int scelta);  // formelabora_aspetto.cpp
   void collega_regole();
   void scegli_settimana();
+  int giorno_scelto() const;
   void scegli_giorno();
   void scegli_alimento(int riga);
   void elabora();

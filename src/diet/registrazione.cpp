@@ -25,26 +25,20 @@ void conta_usi(const Motore& motore, Spuntati& spuntati, Archivio& dati, int d, 
   spuntati.conta_uso_alimenti(dati, cibi, m);
 }
 
-std::vector<Integratore> leggi_integratori(Archivio& dati) {
-  std::vector<Integratore> integratori;
-  for (const Riga& r : dati.righe(u"SELECT * FROM Integratore_dieta"_s)) {
-    const double q = r[u"quantità"].toDouble();
-    const auto energia = [&](QStringView campo, int kcal_al_grammo) {
-      return static_cast<float>(r[campo].toDouble() * kcal_al_grammo * q / 100);
-    };
-    integratori.push_back({{.cod1 = 23,
-                            .cod2 = 0,
-                            .descr = r[u"Descrizione"].toString(),
-                            .unico = true,
-                            .cal = round16(r[u"calorie"].toDouble() * q / 100),
-                            .prot = energia(u"protidi", 4),
-                            .lip = energia(u"lipidi", 9),
-                            .gluc = energia(u"glucidi", 4),
-                            .quant = round16(q),
-                            .fattore = 1,
-                            .quant_mod = {}},
-                           r[u"LV"].toBool(),
-                           r[u"SD"].toBool()});
-  }
-  return integratori;
+voce_pasto voce_integratore(const Riga& r) {
+  const double q = r[u"quantità"].toDouble();
+  const auto energia = [&](QStringView campo, int kcal_al_grammo) {
+    return static_cast<float>(r[campo].toDouble() * kcal_al_grammo * q / 100);
+  };
+  return {.cod1 = 23,
+          .cod2 = 0,
+          .descr = r[u"Descrizione"].toString(),
+          .unico = true,
+          .cal = round16(r[u"calorie"].toDouble() * q / 100),
+          .prot = energia(u"protidi", 4),
+          .lip = energia(u"lipidi", 9),
+          .gluc = energia(u"glucidi", 4),
+          .quant = round16(q),
+          .fattore = 1,
+          .quant_mod = {}};
 }

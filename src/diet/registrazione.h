@@ -4,18 +4,11 @@
 #include "diet/motore.h"
 #include "diet/spuntati.h"
 
-#include <vector>
-
 /// Copies the working meal into the menu, sorted by group; what stood there goes.
 void registra_pasto(Motore& motore, int d, int m, int settimana);
 
 /// Counts the foods of the meal just recorded in the client's list, all or none.
 void conta_usi(const Motore& motore, Spuntati& spuntati, Archivio& dati, int d, int m);
 
-/// A supplement of the diet as an entry of a lunch, and the days on which it goes in.
-struct Integratore {
-  voce_pasto voce;
-  bool lv = false, sd = false;
-};
-
-[[nodiscard]] std::vector<Integratore> leggi_integratori(Archivio& dati);
+/// A row of `Integratore_dieta` as an entry of a lunch. Throws Errore 6 for an overflow.
+[[nodiscard]] voce_pasto voce_integratore(const Riga& r);

@@ -79,7 +79,7 @@ class Elaborazione {
   Bersagli bersagli_;
   const Tramite& tramite_;
   std::optional<Archivio> dati_;
-  std::optional<std::vector<Integratore>> integratori_;
+  std::optional<std::vector<Riga>> integratori_;
 
   int m_ = 0, d_ = 0;  // meal and day in hand
   std::int16_t K_ = 0;
@@ -181,17 +181,15 @@ void Elaborazione::pasto_leggero() {
   const int codice = m_ == 0 ? 1 : 3;
   while (risultato_ != 1) {
     bool trovato = false;
-    if (++attese_ < attese_massime) prosegui([&] { trovato = scegli_pasto_leggero(c_, m_, codice); });
-    if (trovato) {
-      bilancia();
-      if (risultato_ == 1) registra();
-      if (risultato_ != -1) continue;
+    prosegui([&] { trovato = scegli_pasto_leggero(c_, m_, codice); });
+    if (trovato) bilancia();
+    if (trovato && risultato_ == 1) return registra();
+    if (trovato && risultato_ == -1) {
       s_.svuota_pasto();
       attese_ = 0;
       if (++tentativi_ > eccessi_massimi) return abbandona_pasto_leggero(u"ERRORE nel caricamento "_s);
-    } else {
-      if (s_.conta_voci > 2) s_.svuota_pasto();
-      if (attese_ >= attese_massime) s_.svuota_pasto();
+    } else if (!trovato || ++attese_ >= attese_massime) {
+      if (s_.conta_voci > 2 || trovato) s_.svuota_pasto();
       attese_ = 0;
       if (++tentativi_ > tentativi_massimi) return abbandona_pasto_leggero(u"ERRORE nel caricamento"_s);
     }
@@ -209,7 +207,7 @@ Elaborazione::Esito Elaborazione::pasto_principale() {
     const int prima = tentativi_;
     tentativo();
     attese_ = tentativi_ == prima ? attese_ + 1 : 0;
-    if (attese_ >= attese_massime) sblocca();
+    if (!fatto_ && attese_ >= attese_massime) sblocca();
     if (tentativi_ > tentativi_massimi) return Esito::sospesa;
   }
   return Esito::avanti;
@@ -260,12 +258,12 @@ void Elaborazione::estrai_portata() {
 }
 
 void Elaborazione::carica_integratore() {
-  if (!integratori_) integratori_ = leggi_integratori(dati());
+  if (!integratori_) integratori_ = dati().righe(u"SELECT * FROM Integratore_dieta"_s);
   if (integratori_->empty()) integratore_fatto_ = true;
-  for (const Integratore& i : *integratori_) {
-    if (i.voce.quant == 0 || !(d_ < 5 ? i.lv : i.sd)) continue;
+  for (const Riga& r : *integratori_) {
+    if (r[u"quantità"].toDouble() == 0 || !r[d_ < 5 ? u"LV" : u"SD"].toBool()) continue;
     if (s_.conta_voci >= voci_di_lavoro) throw Errore(9, "Indice non incluso nell'intervallo");
-    s_.pasto_lavoro[static_cast<std::size_t>(s_.conta_voci)] = i.voce;
+    s_.pasto_lavoro[static_cast<std::size_t>(s_.conta_voci)] = voce_integratore(r);
     ++s_.conta_voci;
     integratore_fatto_ = true;
     return;
