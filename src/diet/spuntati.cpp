@@ -61,6 +61,7 @@ void Spuntati::conta_uso_alimenti(Archivio& dati, const std::vector<std::pair<st
                                   int m) {
   const bool pranzo = m == 2;
   std::vector<QVariantList> chiavi;
+  chiavi.reserve(cibi.size());
   for (const auto& [cod1, cod2] : cibi) chiavi.push_back({cod1, cod2, m + 2});
   dati.transazione([&] {
     dati.esegui_serie(pranzo ? u"update alimenti_spuntati set n_volte_pranzo=n_volte_pranzo+1 "

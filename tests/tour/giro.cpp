@@ -139,7 +139,8 @@ void cliente(const QString& file) {
 
 int giro(const QString& cartella_quadri) {
   quadri.setPath(cartella_quadri);
-  pretendi(quadri.removeRecursively() && quadri.mkpath(u"."_s), "the folder of pictures cannot be made");
+  pretendi(quadri.mkpath(u"."_s), "the folder of pictures cannot be made");
+  for (const QString& vecchio : quadri.entryList({u"[0-9][0-9]_*.png"_s})) quadri.remove(vecchio);
   const QTemporaryDir lavoro;
   copia_archivi(lavoro.path());
   parla_con(rispondi);
