@@ -14,7 +14,9 @@ QDate data_di(QStringView testo) {
   return {anno, m.captured(3).toInt(), m.captured(1).toInt()};
 }
 
-QString data_breve(QDate data) {
+QString formato_data_breve() {
   const QLocale l;
-  return l.toString(data, l.language() == QLocale::Italian ? u"dd/MM/yyyy"_s : l.dateFormat(QLocale::ShortFormat));
+  return l.language() == QLocale::Italian ? u"dd/MM/yyyy"_s : l.dateFormat(QLocale::ShortFormat);
 }
+
+QString data_breve(QDate data) { return QLocale().toString(data, formato_data_breve()); }

@@ -8,5 +8,8 @@
 /// 19xx, 00 to 29 are 20xx. Invalid where the text is no date.
 [[nodiscard]] QDate data_di(QStringView testo);
 
+/// The pattern of a date's short form.
+[[nodiscard]] QString formato_data_breve();
+
 /// The short form of a date, dd/MM/yyyy under Italian; empty for an invalid date.
 [[nodiscard]] QString data_breve(QDate data);

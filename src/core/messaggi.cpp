@@ -30,16 +30,18 @@ bool finestra(const Riquadro& r) {
   return box.exec() == QMessageBox::Yes;
 }
 
-Interlocutore interlocutore = finestra;
+Interlocutore interlocutore;
+
+bool parla(const Riquadro& r) { return interlocutore ? interlocutore(r) : finestra(r); }
 
 }  // namespace
 
-void messaggio(const QString& testo, const QString& titolo, Icona icona) {
-  interlocutore({testo, titolo, icona, false});
-}
+void messaggio(const QString& testo, const QString& titolo, Icona icona) { parla({testo, titolo, icona, false}); }
 
-bool domanda(const QString& testo, const QString& titolo, Icona icona) {
-  return interlocutore({testo, titolo, icona, true});
+bool domanda(const QString& testo, const QString& titolo, Icona icona) { return parla({testo, titolo, icona, true}); }
+
+bool domanda_con(const Riquadro& domanda, const std::function<bool()>& finestra) {
+  return interlocutore ? interlocutore(domanda) : finestra();
 }
 
 Interlocutore parla_con(Interlocutore nuovo) { return std::exchange(interlocutore, std::move(nuovo)); }

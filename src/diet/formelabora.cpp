@@ -3,6 +3,7 @@
 #include "base/archivio.h"
 #include "base/errori.h"
 #include "base/numeri.h"
+#include "core/attesa.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/regole.h"
@@ -19,14 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString scritta_test = u"Elaborazione DIETA"_s;
-
-/// A busy cursor for as long as it lives.
-struct Attesa {
-  Attesa() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~Attesa() { QApplication::restoreOverrideCursor(); }
-  Attesa(const Attesa&) = delete;
-  Attesa& operator=(const Attesa&) = delete;
-};
 
 QString percento(double parte, double tutto) {
   if (tutto == 0) throw Errore(11, "Divisione per zero");

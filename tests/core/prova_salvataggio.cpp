@@ -1,0 +1,260 @@
+// The general save: file, registry and address book, for new clients, known ones and copies.
+#include "core/salvataggio.h"
+
+#include "core/formalert.h"
+#include "core/mdiorza.h"
+#include "core/registro.h"
+#include "core/salva_carica.h"
+#include "core/sezioni.h"
+#include "diet/formelabora.h"
+#include "intake/formanag.h"
+#include "office/rubrica_sync.h"
+
+#include "ambiente.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+Atteso domanda_semplice(bool risposta = true) {
+  return {u"Salvataggio generale degli archivi ?"_s, u"Orzaline  control"_s, risposta};
+}
+Atteso domanda_rubrica(bool risposta = true) {
+  return {
+      u"Salvataggio generale degli archivi. \n"
+      "Il nome è già presente in rubrica, i dati verranno sovrascritti. Procedere ?"_s,
+      u"Orzaline  control"_s, risposta};
+}
+Atteso avviso(bool nuovo) {
+  return {
+      u"Il paziente è già presente in archivio.\n"
+      "Se si vuol salvare sovrascrivendo i dati, cliccare su SOVRASCRIVERE.\n"
+      "Se si vuol salvare con diverso codice, cliccare su NUOVO"_s,
+      u"Attenzione"_s, nuovo};
+}
+
+struct ProvaSalvataggio : Ambiente {
+  Mdiorza& m = schermata<Mdiorza>();
+  const QDate giorno{2026, 3, 14};
+
+  ProvaSalvataggio() {
+    esterno().oggi = [this] { return giorno; };
+  }
+
+  /// A new client in front, born in Rome and living in Pescara.
+  void comincia(const QString& cognome, const QString& nome) {
+    scarica_schede();
+    elimina_dati_tmp();
+    azzera_banner();
+    mostra<Formanag>();
+    auto& f = schermata<Formanag>();
+    f.Txtcod->setText(QString::number(prossimo_cod()));
+    f.txtdatavisita->setDate(giorno.addDays(-7));
+    f.Txtcognome->setText(cognome);
+    f.TxtNOME->setText(nome);
+    f.Txtpeso->setText(u"72"_s);
+    luogo(f.comboprov, u"RM"_s, f.Combocom, u"Roma"_s);
+    luogo(f.comboprov2, u"PE"_s, f.Combocom2, u"Pescara"_s);
+    f.Txtind->setText(u"via dei Mille 7"_s);
+    f.txttel1->setText(u"085-1"_s);
+    f.Txttel2->setText(u"085-2"_s);
+    f.Txtcell->setText(u"333"_s);
+    f.Txtmail->setText(u"a@b.it"_s);
+  }
+  static void luogo(QComboBox* provincia, const QString& sigla, QComboBox* comune, const QString& nome) {
+    scegli(provincia, provincia->findText(sigla));
+    scegli(comune, comune->findText(nome));
+  }
+
+  void salva(const std::deque<Atteso>& attesi) {
+    Dialogo d(attesi);
+    m.Command2[1]->click();
+  }
+  static QStringList registro() {
+    QStringList righe;
+    for (const Iscritto& i : iscritti()) righe << u"%1 %2 %3"_s.arg(i.cod).arg(i.cognome, QFileInfo(i.file).fileName());
+    return righe;
+  }
+  static QVariantMap anagrafe(const QString& file) {
+    Archivio cliente(percorso(file), accesso, Archivio::Modo::sola_lettura);
+    return carica_riga(cliente, u"anagrafe"_s);
+  }
+  static std::vector<QVariantMap> rubrica(const QString& tabella) {
+    Archivio a(percorso(u"rubrica.jed"_s));
+    return carica_righe(a, tabella);
+  }
+};
+
+}  // namespace
+
+TEST_F(ProvaSalvataggio, ANewClientComesInWithoutAnAlert) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  salva({domanda_semplice(false)});
+  EXPECT_FALSE(QFile::exists(percorso(u"1_ROSSI"_s)));
+  EXPECT_TRUE(registro().isEmpty() && rubrica(u"Nomi"_s).empty());
+  salva({domanda_semplice()});
+  EXPECT_EQ(registro(), QStringList{u"1 ROSSI 1_ROSSI.orzaline"_s});
+  const QVariantMap salvata = anagrafe(u"1_ROSSI/1_ROSSI.orzaline"_s);
+  EXPECT_EQ(salvata.value(u"cognome"_s), u"ROSSI"_s) << "the stage in front was saved first";
+  EXPECT_EQ(salvata.value(u"data_visita"_s), u"07/03/2026"_s);
+  EXPECT_TRUE(esiste_dati_tmp());
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ProvaSalvataggio, AKnownClientIsOverwrittenOnlyAfterTheAlert) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  salva({domanda_semplice()});
+  schermata<Formanag>().Txtpeso->setText(u"70"_s);
+  salva({domanda_rubrica(), avviso(false)});
+  EXPECT_EQ(registro(), QStringList{u"1 ROSSI 1_ROSSI.orzaline"_s});
+  EXPECT_EQ(anagrafe(u"1_ROSSI/1_ROSSI.orzaline"_s).value(u"peso"_s), 70.0);
+  EXPECT_EQ(rubrica(u"Nomi"_s).size(), 1U);
+  schermata<Formanag>().Txtcognome->setText(u"VERDI"_s);
+  salva({domanda_semplice(), avviso(false)});
+  EXPECT_EQ(registro(), QStringList{u"1 VERDI 1_VERDI.orzaline"_s});
+  EXPECT_TRUE(QFile::exists(percorso(u"1_ROSSI/1_ROSSI.orzaline"_s))) << "the old folder stays";
+}
+
+TEST_F(ProvaSalvataggio, ACopyTakesANewNumberFromWhateverStageIsInFront) {
+  for (const bool in_vista : {true, false}) {
+    comincia(in_vista ? u"ROSSI"_s : u"VERDI"_s, u"ADA"_s);
+    salva({domanda_semplice()});
+    const QString cod = m.Txtcod->text(), nuovo = QString::number(cod.toInt() + 1);
+    const QString vecchio = percorso_cliente();
+    const QByteArray prima = contenuto(vecchio);
+    const QVariantMap riga = anagrafe(vecchio);
+    if (!in_vista) {
+      scarica<Formanag>();
+      mostra<Formelabora>();
+    }
+    salva({domanda_rubrica(), avviso(true)});
+    EXPECT_EQ(contenuto(vecchio), prima);
+    EXPECT_EQ(m.Txtcod->text(), nuovo);
+    EXPECT_EQ(m.LabPesoOld.text(), u"72"_s);
+    QVariantMap attesa = riga;
+    attesa[u"cod"_s] = nuovo.toLongLong();
+    attesa[u"data_visita"_s] = u"14/03/2026"_s;
+    EXPECT_EQ(anagrafe(percorso_cliente()), attesa) << "in front: " << in_vista;
+    EXPECT_EQ(rubrica(u"Abitazione"_s).back().value(u"provincia"_s), u"PE"_s);
+    salva({domanda_rubrica(), avviso(false)});
+    EXPECT_TRUE(registro().contains(u"%1 %2 %1_%2.orzaline"_s.arg(nuovo, riga.value(u"cognome"_s).toString())));
+  }
+  EXPECT_EQ(registro().size(), 4);
+}
+
+TEST_F(ProvaSalvataggio, TheClientIsMirroredInTheAddressBook) {
+  {
+    Archivio a(percorso(u"rubrica.jed"_s));
+    a.esegui(u"INSERT INTO Nomi (ID, nome, cognome) VALUES (4, ' ROSSI MARIO ', 'DE'), (9, 'MARIO', 'BIANCHI')"_s);
+    for (const QString& t : {u"Abitazione"_s, u"Ufficio"_s, u"NumTel"_s}) {
+      a.esegui(u"INSERT INTO %1 (id) VALUES (4), (9)"_s.arg(t));
+    }
+    a.esegui(u"UPDATE Ufficio SET Societa = 'tipografia'"_s);
+    a.esegui(u"UPDATE NumTel SET EMail = 'x@y.it', Cellulare = '347'"_s);
+  }
+  comincia(u"DE ROSSI"_s, u"MARIO"_s);
+  EXPECT_EQ(cognome_da_soggetto(), u"DE "_s);
+  EXPECT_EQ(nome_da_soggetto(), u"ROSSI MARIO"_s);
+  salva({domanda_rubrica()});
+  EXPECT_EQ(registro(), QStringList{u"1 DE 1_DE.orzaline"_s});
+  const QString v;
+  EXPECT_EQ(rubrica(u"Nomi"_s)[0], (QVariantMap{{u"ID"_s, 4},
+                                                {u"nome"_s, u"ROSSI MARIO"_s},
+                                                {u"cognome"_s, u"DE"_s},
+                                                {u"NomeCognome"_s, u"ROSSI MARIO DE"_s}}));
+  EXPECT_EQ(rubrica(u"Abitazione"_s)[0], (QVariantMap{{u"id"_s, 4},
+                                                      {u"indirizzo"_s, u"via dei Mille 7"_s},
+                                                      {u"Citta"_s, v},
+                                                      {u"provincia"_s, u"PE"_s},
+                                                      {u"cap"_s, schermata<Formanag>().Txtcap->text()},
+                                                      {u"paese"_s, u"Pescara"_s}}));
+  QVariantMap ufficio{{u"id"_s, 4}}, telefoni{{u"id"_s, 4}};
+  for (const QString& campo : {u"indirizzo"_s, u"Citta"_s, u"provincia"_s, u"cap"_s, u"paese"_s, u"posizione"_s,
+                               u"Societa"_s, u"Dipartimento"_s, u"Ufficio"_s, u"Assistente"_s}) {
+    ufficio[campo] = v;
+  }
+  for (const QString& campo : {u"Abitazione2"_s, u"Cercapersone"_s, u"Ufficio"_s, u"Ufficio2"_s, u"Assistente"_s,
+                               u"FAX"_s, u"Cellulare2"_s, u"EMail"_s}) {
+    telefoni[campo] = v;
+  }
+  telefoni[u"abitazione"_s] = u"085-1"_s;
+  telefoni[u"Cellulare"_s] = u"085-2"_s;
+  EXPECT_EQ(rubrica(u"Ufficio"_s)[0], ufficio);
+  EXPECT_EQ(rubrica(u"NumTel"_s)[0], telefoni);
+  EXPECT_EQ(rubrica(u"NumTel"_s)[1].value(u"Cellulare"_s), u"347"_s) << "other people stay as they are";
+  schermata<Formanag>().TxtNOME->setText(u"ADA"_s);
+  salva({domanda_semplice(), avviso(false)});
+  ASSERT_EQ(rubrica(u"Nomi"_s).size(), 3U);
+  const QVariant id = rubrica(u"Nomi"_s)[2].value(u"ID"_s);
+  for (const QString& t : {u"Abitazione"_s, u"Ufficio"_s, u"NumTel"_s}) {
+    EXPECT_EQ(rubrica(t).size(), 3U);
+    EXPECT_EQ(rubrica(t)[2].value(u"id"_s), id) << "the number that the engine gave to the name";
+  }
+}
+
+TEST_F(ProvaSalvataggio, APersonWithoutItsTelephonesStopsTheMirrorWhole) {
+  {
+    Archivio a(percorso(u"rubrica.jed"_s));
+    a.esegui(u"INSERT INTO Nomi (ID, nome, cognome) VALUES (4, 'MARIA', 'ROSSI')"_s);
+    for (const QString& t : {u"Abitazione"_s, u"Ufficio"_s}) a.esegui(u"INSERT INTO %1 (id) VALUES (4)"_s.arg(t));
+  }
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  Fallimenti f;
+  salva({domanda_rubrica()});
+  EXPECT_EQ(f.numeri, std::vector<int>{3159});
+  EXPECT_EQ(rubrica(u"Abitazione"_s)[0], (QVariantMap{{u"id"_s, 4}})) << "nothing of it was written";
+  EXPECT_EQ(registro().size(), 1) << "the client itself is safe";
+}
+
+TEST_F(ProvaSalvataggio, ACopyThatFailsLeavesTheOldFileWholeAndSaysWhich) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  salva({domanda_semplice()});
+  const QString file = percorso_cliente();
+  const QByteArray prima = contenuto(file);
+  schermata<Formanag>().Txtpeso->setText(u"70"_s);
+  QDir().mkpath(file + u".nuovo"_s);  // where the new file would be written stands a folder
+  {
+    Fallimenti f;
+    salva({domanda_rubrica(), avviso(false)});
+    ASSERT_EQ(f.testi.size(), 1);
+    EXPECT_TRUE(f.testi.front().contains(u"1_ROSSI.orzaline"_s)) << f.testi.front().toStdString();
+  }
+  EXPECT_EQ(contenuto(file), prima);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(carica_riga((apri_dati_tmp(Scopo::salvare), dati_tmp()), u"anagrafe"_s).value(u"peso"_s), 70.0)
+      << "the work stays in the working copy";
+  QDir().rmdir(file + u".nuovo"_s);
+  salva({domanda_rubrica(), avviso(false)});
+  EXPECT_EQ(anagrafe(file).value(u"peso"_s), 70.0);
+}
+
+TEST_F(ProvaSalvataggio, WithoutAWorkingCopyAClientsFileIsSafe) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  salva({domanda_semplice()});
+  const QByteArray prima = contenuto(percorso_cliente());
+  elimina_dati_tmp();
+  Fallimenti f;
+  salva({domanda_rubrica()});
+  EXPECT_EQ(f.numeri, std::vector<int>{53});
+  EXPECT_EQ(contenuto(percorso_cliente()), prima);
+}
+
+TEST_F(ProvaSalvataggio, OnlyItsButtonsAnswerTheAlert) {
+  // Where an earlier test left the program, no window would wait for its answer any more.
+  QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+  QCoreApplication::exec();
+  for (const bool nuovo : {true, false}) {
+    bool visto = false;
+    QTimer::singleShot(0, [&] {
+      auto* a = dynamic_cast<FormAlert*>(QApplication::activeModalWidget());
+      ASSERT_NE(a, nullptr);
+      QTest::keyClick(a, Qt::Key_Escape);
+      visto = a->isVisible() && a->windowTitle() == u"Attenzione"_s;
+      QTest::mouseClick(a->Command1[nuovo ? 0 : 1], Qt::LeftButton);
+    });
+    EXPECT_EQ(chiedi_nuovo(), nuovo);
+    EXPECT_TRUE(visto);
+  }
+}
