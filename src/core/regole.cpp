@@ -37,26 +37,30 @@ struct Scelta {
   }
 };
 
-std::shared_ptr<Scelta> scelta_su(QObject* toccato, std::function<void()> regola) {
+std::shared_ptr<Scelta> scelta_su(const QObjectList& toccati, std::function<void()> regola) {
   auto s = std::make_shared<Scelta>(Scelta{std::move(regola)});
-  new Guardia(toccato, [s](QEvent* e) {
-    if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::KeyPress || e->type() == QEvent::Wheel) {
-      s->nuova = false;
-    }
-  });
+  for (QObject* toccato : toccati) {
+    new Guardia(toccato, [s](QEvent* e) {
+      if (e->type() == QEvent::MouseButtonPress || e->type() == QEvent::KeyPress || e->type() == QEvent::Wheel) {
+        s->nuova = false;
+      }
+    });
+  }
   return s;
 }
 
 }  // namespace
 
 void dettaglio::clic_di_lista(QComboBox* lista, std::function<void()> regola) {
-  auto s = scelta_su(lista, std::move(regola));
+  QObjectList toccati{lista};
+  if (lista->isEditable()) toccati << lista->lineEdit();
+  auto s = scelta_su(toccati, std::move(regola));
   QObject::connect(lista, &QComboBox::currentIndexChanged, lista, [s] { s->cambiata(); });
   QObject::connect(lista, &QComboBox::activated, lista, [s] { s->scelta(); });
 }
 
 void dettaglio::clic_di_lista(QListWidget* lista, std::function<void()> regola) {
-  auto s = scelta_su(lista->viewport(), std::move(regola));
+  auto s = scelta_su({lista->viewport()}, std::move(regola));
   QObject::connect(lista, &QListWidget::currentRowChanged, lista, [s, lista](int riga) {
     // The focus alone makes the first line current without choosing it.
     if (riga < 0 || lista->item(riga)->isSelected()) s->cambiata();
@@ -88,6 +92,18 @@ void dettaglio::su_doppio_clic(QWidget* controllo, std::function<void()> regola)
   auto* vista = qobject_cast<QAbstractItemView*>(controllo);
   new Guardia(vista ? vista->viewport() : controllo, [regola = std::move(regola)](QEvent* e) {
     if (e->type() == QEvent::MouseButtonDblClick) regola();
+  });
+}
+
+void dettaglio::su_uscita(QWidget* controllo, std::function<void()> regola) {
+  new Guardia(controllo, [regola = std::move(regola)](QEvent* e) {
+    if (e->type() != QEvent::FocusOut) return;
+    switch (static_cast<QFocusEvent*>(e)->reason()) {
+      case Qt::ActiveWindowFocusReason:
+      case Qt::PopupFocusReason:
+      case Qt::MenuBarFocusReason: return;
+      default: regola();
+    }
   });
 }
 

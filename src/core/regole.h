@@ -34,6 +34,7 @@ void clic_di_lista(QComboBox* lista, std::function<void()> regola);
 void clic_di_lista(QListWidget* lista, std::function<void()> regola);
 void su_tasto(QAbstractButton* pulsante, bool giu, std::function<void()> regola);
 void su_doppio_clic(QWidget* controllo, std::function<void()> regola);
+void su_uscita(QWidget* controllo, std::function<void()> regola);
 }  // namespace dettaglio
 
 /// Change of the text, by typing and by program alike.
@@ -85,6 +86,11 @@ void al_rilascio(QAbstractButton* c, F regola) {
 template <class F>
 void al_doppio_clic(QWidget* c, F regola) {
   dettaglio::su_doppio_clic(c, dettaglio::porta(std::move(regola)));
+}
+/// The focus goes to another control; a box or another program that comes in front takes nothing away.
+template <class F>
+void all_uscita(QWidget* c, F regola) {
+  dettaglio::su_uscita(c, dettaglio::porta(std::move(regola)));
 }
 template <class F>
 void allo_scatto(QTimer* t, F regola) {

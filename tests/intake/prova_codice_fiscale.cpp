@@ -1,0 +1,119 @@
+// The fiscal code without a screen, and the table of municipalities it reads.
+#include "intake/codice_fiscale.h"
+
+#include "base/archivio.h"
+#include "base/errori.h"
+#include "intake/comuni.h"
+
+#include "stampa.h"
+
+#include <gtest/gtest.h>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+TEST(CodiceFiscale, NamesGiveThreeLetters) {
+  struct Caso {
+    QStringView testo, cognome, nome;
+  };
+  const Caso casi[]{
+      {u"ROSSI", u"RSS", u"RSS"}, {u"MARIA", u"MRA", u"MRA"},   {u"GIANFRANCO", u"GNF", u"GFR"},
+      {u"ANNA", u"NNA", u"NNA"},  {u"DE LUCA", u"DLC", u"DLC"}, {u"FO", u"FOX", u"FOX"},
+      {u"EA", u"EAX", u"EAX"},    {u"RE", u"REX", u"REX"},      {u"BOA", u"BOA", u"BOA"},
+      {u"AIUEO", u"AIX", u"AIX"}, {u"OB", u"BOX", u"BOX"},      {u"ROSSANA", u"RSS", u"RSN"},
+  };
+  for (const Caso& c : casi) {
+    EXPECT_EQ(componi_nome(c.testo.toString(), Parte::cognome), c.cognome.toString()) << c.testo.toUtf8().constData();
+    EXPECT_EQ(componi_nome(c.testo.toString(), Parte::nome), c.nome.toString()) << c.testo.toUtf8().constData();
+  }
+  for (const QString& senza :
+       {u""_s, u" "_s, u"D'AMICO"_s, u"NICOLÒ"_s, u"rossi"_s, u"A"_s, u"B"_s, u"BC"_s, u"R2D2"_s}) {
+    EXPECT_EQ(componi_nome(senza, Parte::cognome), u""_s) << senza.toStdString();
+  }
+}
+
+TEST(CodiceFiscale, WholeCodes) {
+  struct Caso {
+    DatiCodice dati;
+    QStringView codice;
+  };
+  const Caso casi[]{
+      {{u"ROSSI"_s, u"MARIO"_s, u"01/01/1980"_s, u"M"_s, u"H501"_s}, u"RSS MRA 80A01 H501 U"},
+      {{u"rossi "_s, u" Mario"_s, u"10-12-85"_s, u"M"_s, u"A562"_s}, u"RSS MRA 85T10 A562 S"},
+      {{u"BIANCHI"_s, u"MARIA"_s, u"1/11/1975"_s, u"F"_s, u"F205"_s}, u"BNC MRA 75S41 F205 V"},
+      {{u"GIANFRANCO"_s, u"GUIA"_s, u"15/11/1963"_s, u"M"_s, u"L219"_s}, u"GNF GUI 63S15 L219 X"},
+      {{u"FO"_s, u"GIANFRANCO"_s, u"28/02/1999"_s, u"M"_s, u"Z404"_s}, u"FOX GFR 99B28 Z404 A"},
+      {{u"RE"_s, u"EA"_s, u"30/06/2005"_s, u"F"_s, u"Z112"_s}, u"REX EAX 05H70 Z112 X"},
+      {{u"VERDI"_s, u"ANNA"_s, u"12/08/2002"_s, u"F"_s, u"D612"_s}, u"VRD NNA 02M52 D612 S"},
+  };
+  for (const Caso& c : casi) EXPECT_EQ(componi_codice(c.dati), c.codice.toString());
+}
+
+TEST(CodiceFiscale, AGroupThatCannotBeFormedStaysEmpty) {
+  const DatiCodice intero{u"ROSSI"_s, u"MARIO"_s, u"01/05/1980"_s, u"M"_s, u"H501"_s};
+  const auto con = [&](QString DatiCodice::*campo, const QString& valore) {
+    DatiCodice d = intero;
+    d.*campo = valore;
+    return componi_codice(d);
+  };
+  EXPECT_EQ(con(&DatiCodice::cognome, u"D'AMICO"_s), u" MRA 80E01 H501 "_s);
+  EXPECT_EQ(con(&DatiCodice::nome, u""_s), u"RSS  80E01 H501 "_s);
+  EXPECT_EQ(con(&DatiCodice::data, u"31/02/1980"_s), u"RSS MRA  H501 "_s);
+  EXPECT_EQ(con(&DatiCodice::comune, u""_s), u"RSS MRA 80E01  "_s);
+  EXPECT_EQ(con(&DatiCodice::comune, u"H5O1"_s), u"RSS MRA 80E01 H5O1 "_s);
+  EXPECT_TRUE(con(&DatiCodice::sesso, u""_s).startsWith(u"RSS MRA 800501 H501 "_s)) << "two digits without a sex";
+}
+
+TEST(CodiceFiscale, OddValuesAndMonths) {
+  QString mesi;
+  for (int m = 0; m <= 13; ++m) mesi += lettera_mese(QString::number(m).rightJustified(2, u'0'));
+  EXPECT_EQ(mesi, u"ABCDEHLMPRST"_s);
+  for (const auto& [carattere, atteso] : std::initializer_list<std::pair<QStringView, int>>{{u"A", 1},
+                                                                                            {u"B", 0},
+                                                                                            {u"O", 11},
+                                                                                            {u"Z", 23},
+                                                                                            {u"0", 1},
+                                                                                            {u"1", 0},
+                                                                                            {u"9", 21},
+                                                                                            {u"05", 0},
+                                                                                            {u"a", 0},
+                                                                                            {u"", 0}}) {
+    EXPECT_EQ(valore_dispari(carattere), atteso) << carattere.toUtf8().constData();
+  }
+}
+
+TEST(Comuni, TheTableThatComesWithTheProgram) {
+  imposta_cartella(QStringLiteral(CARTELLA_ARCHIVI));
+  Comuni comuni;
+  comuni.apri();
+  EXPECT_EQ(comuni.trova(u"Roma"_s)->codice, u"H501"_s);
+  EXPECT_EQ(comuni.trova(u"Francia"_s)->codice, u"Z110"_s);
+  EXPECT_EQ(comuni.trova(u"Cagliari"_s)->cap, u"09121"_s);
+  EXPECT_EQ(comuni.trova(u"Francia"_s)->cap, u""_s);
+  EXPECT_EQ(comuni.trova(u"roma"_s), nullptr);
+  EXPECT_TRUE(comuni.province().contains(provincia_estera));
+  EXPECT_TRUE(std::ranges::is_sorted(comuni.province()));
+  EXPECT_TRUE(comuni.di(u"RM"_s).contains(u"Roma"_s));
+  EXPECT_FALSE(comuni.di(u"MI"_s).contains(u"Roma"_s));
+  comuni.chiudi();
+  comuni.chiudi();
+  EXPECT_EQ(comuni.trova(u"Roma"_s), nullptr);
+}
+
+TEST(Comuni, TheFirstOfANameWinsWhateverItsProvince) {
+  const QTemporaryDir cartella;
+  imposta_cartella(cartella.path());
+  {
+    Archivio nuovo(percorso(u"ccc.jed"_s), accesso, Archivio::Modo::nuovo);
+    nuovo.esegui_copione(
+        u"CREATE TABLE Comuni (provincia TEXT, Descrizione TEXT, codice TEXT, cap INTEGER);"
+        "INSERT INTO Comuni VALUES ('TN', 'Samone', 'H754', 38059), ('TO', 'Samone', 'H753', 10010), "
+        "('TO', 'Airasca', 'A109', 10060);"_s);
+  }
+  Comuni comuni;
+  comuni.apri();
+  EXPECT_EQ(comuni.trova(u"Samone"_s)->codice, u"H754"_s);
+  EXPECT_EQ(comuni.di(u"TO"_s), (QStringList{u"Samone"_s, u"Airasca"_s})) << "stored order, not by name";
+  EXPECT_EQ(comuni.province(), (QStringList{u"TN"_s, u"TO"_s}));
+  imposta_cartella(QStringLiteral(CARTELLA_ARCHIVI));
+}
