@@ -3,6 +3,9 @@
 
 #include "base/archivio.h"
 #include "core/dialoghi.h"
+#include "core/formsched.h"
+#include "core/mdiorza.h"
+#include "core/registro.h"
 #include "core/schermate.h"
 #include "core/sessione.h"
 #include "dialogo.h"
@@ -40,8 +43,49 @@ class Ambiente : public ::testing::Test {
     f.write(contenuto);
   }
 
+  /// Puts a client's file into the archive as a general save would: folder, copy, row. Returns its number.
+  static int registra(const QString& origine) {
+    Iscritto i = chi_e(origine);
+    const QString nome = QStringLiteral("%1_%2").arg(i.cod).arg(i.cognome.section(u' ', 0, 0));
+    i.cognome = i.cognome.section(u' ', 0, 0);
+    i.file = QDir(percorso(nome)).filePath(nome + QStringLiteral(".orzaline"));
+    scrivi(i.file, contenuto(origine));
+    iscrivi(i);
+    return i.cod;
+  }
+  /// Opens the archive on the tab of all and chooses a client's line; false where it is not listed.
+  static bool scegli_cliente(int cod) {
+    schermata<Mdiorza>().cmdsopra[0]->click();
+    auto& s = schermata<Formsched>();
+    s.SSTabschedario->setCurrentIndex(scheda_tutti);
+    for (int riga = 0; riga < s.Tabella->rowCount(); ++riga) {
+      if (s.testo(riga, 0) != QString::number(cod)) continue;
+      s.scegli_riga(riga);
+      return true;
+    }
+    return false;
+  }
+  /// Recalls a client from the archive; true where the master data came.
+  static bool richiama(int cod) {
+    if (!scegli_cliente(cod)) return false;
+    schermata<Formsched>().Command10[2]->click();
+    return schermata<Mdiorza>().qualeform.text() == QStringLiteral("0");
+  }
+  /// Recalls a client and jumps to the elaboration.
+  static bool apri_elaborazione(int cod) {
+    if (!richiama(cod)) return false;
+    schermata<Mdiorza>().cmdsopra[5]->click();
+    return schermata<Mdiorza>().qualeform.text() == QStringLiteral("8");
+  }
+
   QTemporaryDir cartella;
 
  private:
+  static Iscritto chi_e(const QString& file) {
+    Archivio cliente(file, accesso, Archivio::Modo::sola_lettura);
+    const Riga r = cliente.righe(QStringLiteral("SELECT cod, cognome FROM anagrafe")).front();
+    return {r[u"cod"].toInt(), r[u"cognome"].toString(), {}};
+  }
+
   const Esterno esterno_ = esterno();
 };

@@ -13,7 +13,7 @@ class Formi_e : public QWidget {
  public:
   Formi_e();
   void al_caricamento();
-  void all_attivazione() {}
+  void all_attivazione() { riempi_elenco_esporta(); }
   void alla_chiusura() {}
 
   /// Lists the clients whose file is there.
@@ -27,7 +27,7 @@ class Formi_e : public QWidget {
   QProgressBar* Animation{};
 
  private:
-  void disegna();             // formi_e_aspetto.cpp
+  void disegna();              // formi_e_aspetto.cpp
   QWidget* disegna_esporta();  // formi_e_aspetto.cpp
   QWidget* disegna_importa();  // formi_e_aspetto.cpp
   void collega_regole();

@@ -18,13 +18,13 @@ class Formsched : public QWidget {
 
   /// Empties the grid and puts it out of use.
   void imposta_tabella();
+  /// Adds a client's line, a text a column, and puts the grid in use.
+  void aggiungi(const QStringList& testi);
   /// Recall and deletion are there where the list is not empty.
   void aggiorna_comandi_schedario();
   /// Orders the lines by surname, then by first name.
   void ordina();
-  /// Writes the number of lines below the grid and puts the grid in use.
-  void conta();
-  /// Names the clients whose file cannot be read, each once while the archive stays in front.
+  /// Notes a client whose file cannot be read; the box names each once while the archive stays in front.
   void segnala(const QString& cliente);
   void mostra_segnalati();
 
@@ -45,10 +45,11 @@ class Formsched : public QWidget {
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
-  void disegna();               // formsched_aspetto.cpp
-  QLayout* disegna_comandi();   // formsched_aspetto.cpp
+  void disegna();              // formsched_aspetto.cpp
+  QLayout* disegna_comandi();  // formsched_aspetto.cpp
   void collega_regole();
   void cambia_scheda();
+  void conta();
 
   QStringList da_segnalare_;
   std::set<QString> segnalati_;

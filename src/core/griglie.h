@@ -17,5 +17,5 @@ struct Colonna {
 /// The width that shows all columns and the scroll bar, in pixels.
 [[nodiscard]] int larghezza_di(std::span<const Colonna> colonne);
 
-/// Adds a line; each text stands as its column does.
-void aggiungi_riga(QTableWidget* griglia, std::span<const Colonna> colonne, const QStringList& testi);
+/// Adds a line; each text stands as its column's head does.
+void aggiungi_riga(QTableWidget* griglia, const QStringList& testi);

@@ -2,9 +2,11 @@
 
 #include "base/archivio.h"
 #include "base/errori.h"
-#include "core/apertura.h"
+#include "core/clienti.h"
 #include "core/dialoghi.h"
+#include "core/formi_e.h"
 #include "core/forminfo.h"
+#include "core/formsched.h"
 #include "core/messaggi.h"
 #include "core/programma.h"
 #include "core/regole.h"
@@ -34,10 +36,18 @@ const std::map<QString, QString> guide{
     {u"7"_s, u"07_Guida_SceltAlim"_s},  {u"8"_s, u"08_Guida_Elaboraz"_s},      {u"10"_s, u"09_Guida_Trattam"_s},
 };
 
-void apri_da_disco() {
-  const QString file = esterno().scegli_file(u"Apri il file di un cliente"_s, percorso(u"esempi"_s),
-                                             u"Clienti di Orzaline (*.orzaline)"_s);
-  if (!file.isEmpty()) apri_file_cliente(file);
+void apri_archivio() {
+  scarica_schede();
+  elimina_dati_tmp();
+  schermata<Mdiorza>().segui_cliente(false);
+  mostra<Formsched>();
+}
+
+/// The banner's values go as soon as the client comes: what they say of the former one must not reach this one.
+void richiama_da_menu() {
+  if (richiama_cliente() == -1) return;
+  azzera_banner();
+  apri_cliente_scheda();
 }
 
 void chiudi_da_menu() {
@@ -79,6 +89,7 @@ void Mdiorza::al_caricamento() {
   Statusbar->hide();
   disabilita_stadi();
   segui_cliente(false);
+  Command1[0]->setEnabled(false);
   const bool con_guida = QFileInfo(percorso(u"help"_s)).isDir();
   menuaiuto->setEnabled(con_guida);
   cmdsopra[13]->setEnabled(con_guida);
@@ -105,8 +116,10 @@ void Mdiorza::collega_regole() {
 }
 
 void Mdiorza::collega_menu() {
+  al_comando(afc, richiama_da_menu);
   al_comando(menuchiudi, chiudi_da_menu);
   al_comando(uscita, [this] { chiedi_uscita(); });
+  al_comando(i_e, mostra<Formi_e>);
   al_comando(impstamp, [] { esterno().imposta_stampante(stampante()); });
   al_comando(menuaiuto, [this] { apriGuida(); });
   al_comando(menuinfo, mostra<Forminfo>);
@@ -114,20 +127,26 @@ void Mdiorza::collega_menu() {
 }
 
 void Mdiorza::collega_barra() {
-  al_clic(cmdsopra[0], apri_da_disco);
+  al_clic(cmdsopra[0], apri_archivio);
   for (const Stadio& s : stadi()) al_clic(cmdsopra[s.pulsante], [&s] { salta_a(s); });
+  al_clic(cmdsopra[9], mostra<Formi_e>);
+  al_clic(cmdsopra[10], [this] { apri_stampe(); });
   al_clic(cmdsopra[13], [this] { apriGuida(); });
   al_clic(cmdsopra[14], [this] { chiedi_uscita(); });
 }
 
 void Mdiorza::apriGuida() {
   if (Statusbar->isHidden()) {
-    guida_ = u"00_Guida_Premessa"_s;
+    const Formsched* archivio = caricata<Formsched>();
+    guida_ = archivio && archivio->isVisible() ? u"01_Guida_inizio"_s : u"00_Guida_Premessa"_s;
   } else if (const auto g = guide.find(qualeform.text()); g != guide.end()) {
     guida_ = g->second;
   }
-  if (guida_.isEmpty()) return;
-  const QString file = percorso(u"help/"_s + guida_ + u".doc"_s);
+  if (!guida_.isEmpty()) apri_documento(u"help/"_s + guida_ + u".doc"_s);
+}
+
+void Mdiorza::apri_documento(const QString& nome) {
+  const QString file = percorso(nome);
   if (!QFile::exists(file)) throw Errore(53, "Impossibile trovare il file " + file.toStdString());
   if (!esterno().apri_documento(file)) throw Errore(429, "Nessun programma apre il documento " + file.toStdString());
 }
@@ -141,8 +160,7 @@ bool Mdiorza::chiedi_uscita() {
 
 void Mdiorza::segui_cliente(bool aperto) {
   Command2[1]->setEnabled(aperto);
-  if (aperto) return;
-  for (QPushButton* b : Command1) b->setEnabled(false);
+  Command1[1]->setEnabled(aperto);
 }
 
 void Mdiorza::closeEvent(QCloseEvent* evento) {

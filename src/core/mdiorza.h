@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
 #include <array>
@@ -29,8 +30,11 @@ class Mdiorza : public QMainWindow {
   /// Asks, and on Yes deletes the working copy and ends the program; false on No.
   bool chiedi_uscita();
 
-  /// The session buttons follow the client: saving and moving make sense only with one open.
+  /// Saving and moving on make sense only with a client who has a surname.
   void segui_cliente(bool aperto);
+
+  /// Saves the stage in front and opens the popup of the reports.
+  void apri_stampe();
 
   Valore qualeform;   // code of the stage in front, -1 between stages, empty before the first
   Valore LabPesoOld;  // kg, the weight as it stood in the client's file
@@ -39,6 +43,7 @@ class Mdiorza : public QMainWindow {
   QAction *menuag{}, *menurubr{}, *i_e{}, *impstamp{};
   QAction *menuaiuto{}, *menuinfo{}, *info{};
   std::array<QToolButton*, 16> cmdsopra{};
+  QMenu* stampe{};
 
   QFrame* Statusbar{};
   QLineEdit *Txtcod{}, *Txtsoggetto{}, *Txtsesso{};
@@ -56,6 +61,7 @@ class Mdiorza : public QMainWindow {
   void disegna();
   void disegna_menu();
   void disegna_barra();
+  void disegna_stampe();  // mdiorza_stampe.cpp
   QFrame* disegna_banner();
   QWidget* disegna_fondo();
   QMdiSubWindow* incornicia(QWidget& schermo);
@@ -63,6 +69,7 @@ class Mdiorza : public QMainWindow {
   void collega_regole();
   void collega_menu();
   void collega_barra();
+  void apri_documento(const QString& nome);
 
   void ospita(QWidget& schermo, const RegoleFiglia& regole);
   void congeda(QWidget& schermo);

@@ -20,8 +20,8 @@ struct Attrezzo {
 };
 constexpr Attrezzo archivio{0, u"Apri lo schedario nominativi", true};
 constexpr Attrezzo dopo_gli_stadi[]{
-    {9, u"Importa/Esporta dati cliente", false},
-    {10, u"Elenco tipi di stampe possibili", false},
+    {9, u"Importa/Esporta dati cliente", true},
+    {10, u"Elenco tipi di stampe possibili", true},
     {11, u"Agenda", false},
     {12, u"Rubrica telefonica dei pazienti memorizzati", false},
     {13, u"Guida in linea contestuale", true},
@@ -51,6 +51,7 @@ void Mdiorza::disegna() {
   setWindowIcon(icona(u"orzaline"_s));
   disegna_menu();
   disegna_barra();
+  disegna_stampe();
   area_ = new QMdiArea;
   area_->setBackground(QColor(0xeef1ef));
   area_->setFrameShape(QFrame::NoFrame);
@@ -75,7 +76,7 @@ void Mdiorza::disegna_menu() {
   QMenu* ut = nominato(menuBar()->addMenu(u"&Utilità"_s), u"ut"_s);
   menuag = voce(ut, u"menuag"_s, u"Agenda"_s, false);
   menurubr = voce(ut, u"menurubr"_s, u"Rubrica"_s, false);
-  i_e = voce(ut, u"i_e"_s, u"Importa / Esporta cliente..."_s, false);
+  i_e = voce(ut, u"i_e"_s, u"Importa / Esporta cliente..."_s);
   ut->addSeparator()->setObjectName(u"s2"_s);
   impstamp = voce(ut, u"impstamp"_s, u"Imposta stampante"_s);
   QMenu* aiuto = nominato(menuBar()->addMenu(u"?"_s), u"menuhelp"_s);
@@ -152,7 +153,7 @@ QWidget* Mdiorza::disegna_fondo() {
 
 QMdiSubWindow* Mdiorza::incornicia(QWidget& schermo) {
   QMdiSubWindow* finestra = area_->addSubWindow(&schermo, Qt::FramelessWindowHint);
-  finestra->setSystemMenu(nullptr);  // a stage is closed by the program alone
+  finestra->setSystemMenu(nullptr);  // a screen is closed by the program alone
   finestra->setFixedSize(larghezza_schermo, altezza_schermo);
   finestra->move(0, 0);
   return finestra;

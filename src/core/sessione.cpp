@@ -2,9 +2,12 @@
 
 #include "base/errori.h"
 #include "base/file.h"
+#include "core/file_cliente.h"
+#include "core/formsched.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "diet/formelabora.h"
+#include "intake/formanag.h"
 
 #include <QDir>
 #include <QFile>
@@ -38,8 +41,16 @@ struct Chiusura {
 };
 
 constexpr Chiusura chiusure[]{
+    {scarica<Formanag>, true},
     {scarica<Formelabora>, true},
+    {scarica<Formsched>, true},
 };
+
+/// A working copy that a crash left damaged must never go over a client's good file.
+void pretendi_sana() {
+  Archivio dati(file_dati(), accesso, Archivio::Modo::sola_lettura);
+  verifica_cliente(dati);
+}
 
 /// client number, "_", first word of the surname
 QString nome_cliente() {
@@ -93,6 +104,7 @@ QString salva_su_file_cliente() {
   const QString cartella = QFileInfo(file).absolutePath();
   if (!QDir().mkpath(cartella)) throw Errore(75, "Impossibile creare la cartella " + cartella.toStdString());
   chiudi_archivi();
+  pretendi_sana();
   sostituisci_file(file_dati(), file);
   return file;
 }

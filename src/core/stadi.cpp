@@ -4,6 +4,7 @@
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "diet/formelabora.h"
+#include "intake/formanag.h"
 
 #include <QApplication>
 #include <algorithm>
@@ -11,7 +12,7 @@
 namespace {
 
 constexpr Stadio percorso_stadi[]{
-    {0, 1, u"Scheda Anagrafica", true, nullptr, nullptr},
+    {0, 1, u"Scheda Anagrafica", true, mostra<Formanag>, scarica<Formanag>},
     {3, 2, u"Dati personali", true, nullptr, nullptr},
     {4, 8, u"Anamnesi patologica", true, nullptr, nullptr},
     {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
@@ -26,27 +27,21 @@ void abilita(bool si) {
   for (const Stadio& s : stadi()) schermata<Mdiorza>().cmdsopra[s.pulsante]->setEnabled(si && s.apri);
 }
 
-/// The stage `passo` places along the path from this one; null beyond its ends.
-const Stadio* vicino(const Stadio& da, std::ptrdiff_t passo) {
-  const auto i = &da - percorso_stadi + passo;
-  return i < 0 || i >= std::ssize(percorso_stadi) ? nullptr : &percorso_stadi[i];
+/// The nearest stage on one side of the path (+1 onward, -1 back) whose screen is there; null where none is left.
+const Stadio* prossimo(const Stadio& da, std::ptrdiff_t passo) {
+  for (auto i = &da - percorso_stadi + passo; i >= 0 && i < std::ssize(percorso_stadi); i += passo) {
+    if (percorso_stadi[i].apri) return &percorso_stadi[i];
+  }
+  return nullptr;
 }
 
 void muovi(std::ptrdiff_t passo) {
   const Stadio* qui = stadio(schermata<Mdiorza>().qualeform.text());
-  if (!qui) return;
-  const Stadio* altro = vicino(*qui, passo);
+  if (!qui || !qui->chiudi) return;
+  const Stadio* altro = prossimo(*qui, passo);
   if (!altro) return QApplication::beep();
-  if (!altro->apri) return;
   qui->chiudi();
   altro->apri();
-}
-
-void segui_stadio(Mdiorza& m, const Stadio& qui) {
-  m.cmdsopra[qui.pulsante]->setChecked(true);
-  if (qui.prende_fuoco) m.cmdsopra[qui.pulsante]->setFocus();
-  const Stadio* vicini[]{vicino(qui, -1), vicino(qui, 1)};
-  for (std::size_t i = 0; i < m.Command1.size(); ++i) m.Command1[i]->setEnabled(!vicini[i] || vicini[i]->apri);
 }
 
 }  // namespace
@@ -65,8 +60,11 @@ void cambia_qualeform() {
   const bool aperto = valore(m.qualeform.text()) >= 0;
   m.Statusbar->setVisible(aperto);
   abilita(aperto);
+  m.Command1[0]->setEnabled(aperto);
   const Stadio* qui = stadio(m.qualeform.text());
-  if (qui) segui_stadio(m, *qui);
+  if (!qui) return;
+  m.cmdsopra[qui->pulsante]->setChecked(true);
+  if (qui->prende_fuoco) m.cmdsopra[qui->pulsante]->setFocus();
 }
 
 void abilita_stadi() { abilita(true); }

@@ -1,8 +1,9 @@
 // The main window: stages, help, opening and leaving a client, the end.
 #include "core/mdiorza.h"
 
-#include "core/apertura.h"
+#include "core/stadi.h"
 #include "diet/formelabora.h"
+#include "intake/formanag.h"
 
 #include "ambiente.h"
 
@@ -10,7 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const Atteso errore_caricamento{u"Si è verificato un errore nel caricamento !"_s, {}};
 const QString vuoi_uscire = u"Sei sicuro di voler uscire dal programma ?"_s;
 const QString salvati = u"Si sta uscendo dall'archivio del soggetto.\nSono stati salvati i dati inseriti ?"_s;
 
@@ -57,7 +57,7 @@ TEST_F(ProvaFinestra, BannerAndToolbarFollowTheStage) {
 }
 
 TEST_F(ProvaFinestra, AJumpPassesThroughNoStageAndEndsOnTheStagesButton) {
-  ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
+  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
   EXPECT_EQ(m.focusWidget(), m.cmdsopra[5]);
   QStringList passati;
   m.qualeform.al_cambio([&] { passati += m.qualeform.text(); });
@@ -95,42 +95,52 @@ TEST_F(ProvaFinestra, HelpFollowsTheStageAndAnUnknownCodeLeavesTheDocument) {
   EXPECT_EQ(f.numeri, std::vector{53});
 }
 
-TEST_F(ProvaFinestra, AClientsFileBecomesTheWorkingCopyAndFillsTheBanner) {
-  const QString file = cliente("1900_ferri");
-  esterno().scegli_file = [&](auto&&...) { return file; };
-  m.cmdsopra[0]->click();
-  EXPECT_EQ(banner(), (QStringList{u"2"_s, u"FERRI MARCO"_s, u"M"_s, u"38"_s, u"168"_s, u"74"_s, u"26,2"_s}));
-  EXPECT_EQ(m.LabPesoOld.text(), u"74"_s);
-  EXPECT_EQ(m.qualeform.text(), u"8"_s);
-  EXPECT_TRUE(m.Command2[1]->isEnabled());
-  EXPECT_EQ(contenuto(percorso(u"dati.tmp"_s)), contenuto(file));
-}
-
-TEST_F(ProvaFinestra, AFileThatIsNoClientsLeavesEverythingAsItWas) {
-  ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
-  const auto* elaborazione = caricata<Formelabora>();
-  const QByteArray dati = contenuto(percorso(u"dati.tmp"_s));
-  const QStringList scritte = banner();
-  scrivi(percorso(u"lettera.orzaline"_s), "Gentile signora");
-  scrivi(percorso(u"mozzo.orzaline"_s), contenuto(cliente("1900_ferri")).chopped(1024));
-  QByteArray guasto = contenuto(cliente("1900_ferri"));
-  guasto[guasto.size() - 500] = static_cast<char>(guasto[guasto.size() - 500] + 1);
-  scrivi(percorso(u"guasto.orzaline"_s), guasto);
-  Dialogo d;
-  for (const QString& nome :
-       {u"lettera.orzaline"_s, u"mozzo.orzaline"_s, u"guasto.orzaline"_s, u"fc.jed"_s, u"matrix.jed"_s, u"manca"_s}) {
-    d.attendi(errore_caricamento);
-    EXPECT_FALSE(apri_file_cliente(percorso(nome)));
-    EXPECT_TRUE(d.finito()) << nome.toStdString();
-    EXPECT_EQ(caricata<Formelabora>(), elaborazione);
-    EXPECT_EQ(banner(), scritte);
-    EXPECT_EQ(m.qualeform.text(), u"8"_s);
-    EXPECT_EQ(contenuto(percorso(u"dati.tmp"_s)), dati);
+TEST_F(ProvaFinestra, TheHelpOfTheArchiveAndOfTheEmptyWindow) {
+  QString aperto;
+  esterno().apri_documento = [&](const QString& file) { return aperto = QFileInfo(file).baseName(), true; };
+  for (const QString& nome : {u"00_Guida_Premessa"_s, u"01_Guida_inizio"_s}) {
+    scrivi(percorso(u"help/"_s + nome + u".doc"_s), "guida");
+    m.menuaiuto->trigger();
+    EXPECT_EQ(aperto, nome);
+    m.cmdsopra[0]->click();
   }
 }
 
+TEST_F(ProvaFinestra, TheMoveButtonsPassOverStagesWithoutAScreen) {
+  ASSERT_TRUE(richiama(registra(cliente("1900_ferri"))));
+  m.Command1[0]->click();
+  EXPECT_EQ(m.qualeform.text(), u"0"_s) << "nothing lies before the first stage";
+  QStringList passati;
+  m.qualeform.al_cambio([&] { passati += m.qualeform.text(); });
+  m.Command1[1]->click();
+  EXPECT_EQ(passati.takeFirst(), u"-1"_s);
+  ASSERT_TRUE(stadio(passati.takeLast())) << "the next stage is one of the path";
+  EXPECT_FALSE(caricata<Formanag>());
+  m.Command1[0]->click();
+  EXPECT_EQ(passati, (QStringList{u"-1"_s, u"0"_s}));
+  EXPECT_TRUE(schermata<Formanag>().isVisible());
+}
+
+TEST_F(ProvaFinestra, ThePopupOfTheReportsSavesTheStageAndOpensTheDocumentsThatAreThere) {
+  ASSERT_TRUE(richiama(registra(cliente("1900_ferri"))));
+  schermata<Formanag>().Txtloc->setText(u"Colle alto"_s);
+  scrivi(percorso(u"Norme.doc"_s), "norme");
+  m.cmdsopra[10]->click();
+  EXPECT_EQ(dati_tmp().righe(u"SELECT locali FROM anagrafe"_s).front()[u"locali"], u"Colle alto"_s);
+  EXPECT_TRUE(m.stampe->isVisible());
+  QStringList attive;
+  QString aperto;
+  esterno().apri_documento = [&](const QString& file) { return aperto = QFileInfo(file).fileName(), true; };
+  for (QAction* a : m.stampe->findChildren<QAction*>()) {
+    if (a->isEnabled() && !a->menu()) attive << a->objectName();
+  }
+  EXPECT_EQ(attive, QStringList{u"menunorme"_s});
+  m.stampe->findChild<QAction*>(u"menunorme"_s)->trigger();
+  EXPECT_EQ(aperto, u"Norme.doc"_s);
+}
+
 TEST_F(ProvaFinestra, LeavingAClientAsksAndThrowsTheWorkingCopyAway) {
-  ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
+  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
   dieta_caricata = true;
   Dialogo d({{salvati, u"ORZALINE 2003"_s, false}, {salvati, u"ORZALINE 2003"_s, true}});
   m.Command2[0]->click();
@@ -146,7 +156,7 @@ TEST_F(ProvaFinestra, LeavingAClientAsksAndThrowsTheWorkingCopyAway) {
 }
 
 TEST_F(ProvaFinestra, TheMenuClosesWithoutAQuestionAndKeepsTheBannersTexts) {
-  ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
+  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
   const QStringList scritte = banner();
   m.menuchiudi->trigger();
   EXPECT_FALSE(caricata<Formelabora>());
@@ -156,7 +166,7 @@ TEST_F(ProvaFinestra, TheMenuClosesWithoutAQuestionAndKeepsTheBannersTexts) {
 }
 
 TEST_F(ProvaFinestra, TheEndAsksAndThrowsTheWorkingCopyAway) {
-  ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
+  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
   const QByteArray originale = contenuto(cliente("1900_ferri"));
   Dialogo d({{vuoi_uscire, u"Orzaline control"_s, false}, {vuoi_uscire, u"Orzaline control"_s, true}});
   EXPECT_FALSE(m.close());

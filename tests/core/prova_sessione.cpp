@@ -2,7 +2,6 @@
 #include "core/sessione.h"
 
 #include "core/mdiorza.h"
-#include "core/salvataggio.h"
 
 #include "ambiente.h"
 
@@ -27,10 +26,6 @@ struct ProvaSessione : Ambiente {
       return e.numero;
     }
     return 0;
-  }
-  static void salva() {
-    Dialogo d({{u"Salvataggio generale degli archivi ?"_s, u"Orzaline  control"_s, true}});
-    salvataggio_generale();
   }
 };
 
@@ -77,40 +72,10 @@ TEST_F(ProvaSessione, AClientsFileIsNamedByTheFirstWordOfTheSurname) {
   }
 }
 
-TEST_F(ProvaSessione, TheGeneralSaveWritesFileAndRegistry) {
-  soggetto(u"12"_s, u"DE ROSSI MARIO"_s);
-  apri_dati_tmp(Scopo::caricare);
-  dati_tmp().esegui(u"INSERT INTO anagrafe (cod) VALUES (?)"_s, 12);
-  {
-    Dialogo d({{u"Salvataggio generale degli archivi ?"_s, u"Orzaline  control"_s, false}});
-    m.Command2[1]->click();
-  }
-  EXPECT_FALSE(QFile::exists(percorso(u"12_DE"_s)));
-  const auto registro = [] {
-    QStringList righe;
-    for (const Riga& r : schedario().righe(u"SELECT cod, cognome, nome_files FROM schedario"_s)) {
-      righe += r[u"cod"].toString() + u' ' + r[u"cognome"].toString() + u' ' + r[u"nome_files"].toString();
-    }
-    return righe;
-  };
-  const QString file = percorso(u"12_DE/12_DE.orzaline"_s);
-  for (int volta = 0; volta < 2; ++volta) {
-    salva();
-    EXPECT_EQ(Archivio(file).righe(u"SELECT cod FROM anagrafe"_s).size(), 1U);
-    EXPECT_TRUE(esiste_dati_tmp());
-    EXPECT_EQ(registro(), QStringList{u"12 DE "_s + file});
-  }
-  soggetto(u"12"_s, u"BIANCHI MARIO"_s);
-  salva();
-  EXPECT_EQ(registro(), QStringList{u"12 BIANCHI "_s + percorso(u"12_BIANCHI/12_BIANCHI.orzaline"_s)});
-  EXPECT_TRUE(QFile::exists(file)) << "the old folder stays";
-}
-
 TEST_F(ProvaSessione, ASaveThatFailsLeavesTheOldFileWhole) {
   soggetto(u"12"_s, u"DE ROSSI MARIO"_s);
   apri_dati_tmp(Scopo::caricare);
-  salva();
-  const QString file = percorso_cliente();
+  const QString file = salva_su_file_cliente();
   const QByteArray vecchio = contenuto(file);
   apri_dati_tmp(Scopo::salvare);
   dati_tmp().esegui(u"INSERT INTO anagrafe (cod) VALUES (?)"_s, 12);

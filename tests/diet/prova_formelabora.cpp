@@ -1,7 +1,6 @@
 // Stage 8 as the practitioner uses it: choosing, elaborating, reading, changing grams, saving.
 #include "ambiente.h"
 #include "base/file.h"
-#include "core/apertura.h"
 #include "core/mdiorza.h"
 #include "diet/formelabora.h"
 
@@ -23,7 +22,8 @@ class ProvaElabora : public Ambiente {
 
   /// The sample client on stage 8, and a first week of two foods on Tuesday: lunch and dinner.
   void SetUp() override {
-    ASSERT_TRUE(apri_file_cliente(cliente("1900_ferri")));
+    cod = registra(cliente("1900_ferri"));
+    ASSERT_TRUE(apri_elaborazione(cod));
     f = caricata<Formelabora>();
     ASSERT_NE(f, nullptr);
     motore().menu(1, 1, 2, 0) = voce(8, u"Tacchino"_s, 200, 120, 30, 50, 100);
@@ -57,6 +57,7 @@ class ProvaElabora : public Ambiente {
     giorno(1);
     pasto(2);
   }
+  int cod = 0;
   Formelabora* f{};
 };
 
@@ -163,14 +164,17 @@ TEST_F(ProvaElabora, AWeekIsElaboratedSavedAndReadBackOnce) {
   ASSERT_FALSE(pranzo.isEmpty());
   {
     Dialogo d({{u"Dieta salvata"_s, u"Orzaline  control"_s},
-               {u"Salvataggio generale degli archivi ?"_s, u"Orzaline  control"_s}});
+               {u"Salvataggio generale degli archivi ?"_s, u"Orzaline  control"_s},
+               {u"Il paziente è già presente in archivio.\n"
+                "Se si vuol salvare sovrascrivendo i dati, cliccare su SOVRASCRIVERE.\n"
+                "Se si vuol salvare con diverso codice, cliccare su NUOVO"_s,
+                u"Attenzione"_s, false}});
     QTest::mouseClick(f->Command5[0], Qt::LeftButton);
   }
-  const QString file = percorso_cliente();
   motore() = {};
   {
     Dialogo d({caricata_prima});
-    ASSERT_TRUE(apri_file_cliente(file));
+    ASSERT_TRUE(apri_elaborazione(cod));
   }
   EXPECT_EQ(motore().menu(1, 3, 2, 0).descr, pranzo);
   motore().menu(1, 3, 2, 0).descr = u"in memoria"_s;

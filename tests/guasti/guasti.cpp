@@ -10,6 +10,7 @@
 #include "base/file.h"
 #include "core/errore_non_gestito.h"
 #include "core/mdiorza.h"
+#include "core/messaggi.h"
 #include "core/salvataggio.h"
 #include "core/sessione.h"
 
@@ -81,11 +82,15 @@ void apri_cliente(const QString& file) {
   auto& m = schermata<Mdiorza>();
   m.Txtcod->setText(u"1"_s);
   m.Txtsoggetto->setText(u"BIANCHI ELENA"_s);
+  m.qualeform.setText(u"8"_s);
+  // Yes, save; and overwrite the client that the archive knows.
+  parla_con([](const Riquadro& r) { return r.titolo != u"Attenzione"; });
 }
 
+/// The whole general save: file, registry, address book.
 void salva_stato(int stato) {
   scrivi_stato(stato);
-  aggiorna_schedario(salva_su_file_cliente());
+  salvataggio_generale();
 }
 
 /// Saves states from `primo` on and tells each one that came back, until killed or stopped by a failure.
@@ -100,7 +105,7 @@ void salva_stato(int stato) {
       salva_stato(stato);
       static_cast<void>(::write(racconto, &stato, sizeof stato));
     }
-  } catch (const Errore&) {
+  } catch (const std::exception&) {
     ::_exit(3);
   }
   ::_exit(0);

@@ -1,0 +1,131 @@
+#include "core/trasferimento.h"
+
+#include "base/archivio.h"
+#include "base/errori.h"
+#include "base/file.h"
+#include "base/numeri.h"
+#include "core/file_cliente.h"
+#include "core/messaggi.h"
+#include "core/registro.h"
+
+#include <QDir>
+#include <QFile>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString orzaline_control = u"Orzaline control"_s;
+
+QString nome_di(int cod, const QString& cognome) { return QString::number(cod) + u'_' + cognome; }
+
+struct Straniero {
+  std::int16_t cod;
+  QString cognome;
+};
+
+std::int16_t cod_da(const QVariant& v) {
+  if (v.isNull()) throw Errore(94, "Utilizzo non valido di Null");
+  if (v.typeId() == QMetaType::QString) return round16(valore(v.toString()));
+  return round16(v.toDouble());
+}
+
+/// The surname names a folder here: it must not lead out of the archive.
+QString cognome_da(const QVariant& v) {
+  if (v.isNull()) throw Errore(94, "Utilizzo non valido di Null");
+  if (v.toString().contains(u'/')) throw Errore(52, "Nome o numero di file non valido");
+  return v.toString();
+}
+
+/// Who a file holds; nothing where its master data are empty. The file is proved whole before it is taken in.
+std::optional<Straniero> leggi(const QString& file) {
+  Archivio cliente(file, accesso, Archivio::Modo::sola_lettura);
+  const auto righe = cliente.righe(u"SELECT cod, cognome FROM anagrafe LIMIT 1"_s);
+  if (righe.empty()) return {};
+  verifica_cliente(cliente);
+  return Straniero{cod_da(righe.front()[u"cod"]), cognome_da(righe.front()[u"cognome"])};
+}
+
+/// The number under which the client comes in; nothing where the user would not have another than its own.
+std::optional<std::int16_t> numero_per(std::int16_t cod) {
+  if (!iscritto(cod)) return cod;
+  const std::int16_t libero = cod_libero();
+  if (domanda(u"Attenzione: il codice del cliente che si è deciso di importare esiste già.\n"
+              "Il cliente verrà inserito con codice "_s +
+                  QString::number(libero) + u"\nContinuare ?"_s,
+              orzaline_control, Icona::informazione)) {
+    return libero;
+  }
+  return {};
+}
+
+/// Copies the client into a folder of its own; where that fails nothing of it stays.
+void porta_dentro(const QString& origine, const QString& cartella, const QString& file, std::int16_t cod) {
+  if (!QDir().mkdir(cartella)) throw Errore(75, "Impossibile creare la cartella " + cartella.toStdString());
+  try {
+    sostituisci_file(origine, file);
+    scrivi_cod_importato(file, cod);
+  } catch (const Errore&) {
+    elimina_archivio(file);
+    QDir().rmdir(cartella);
+    throw;
+  }
+}
+
+enum class Esito { avanti, fine };
+
+Esito importa(const QString& origine, const Copia& in_corso) {
+  const auto straniero = leggi(origine);
+  if (!straniero) return Esito::fine;
+  const auto cod = numero_per(straniero->cod);
+  if (!cod) return Esito::fine;
+  const QString nome = nome_di(*cod, straniero->cognome);
+  const QString cartella = percorso(nome);
+  const QString file = QDir(cartella).filePath(nome + u".orzaline"_s);
+  iscrivi({*cod, straniero->cognome, file});
+  if (QDir(cartella).exists()) return Esito::avanti;
+  if (in_corso) in_corso();
+  porta_dentro(origine, cartella, file, *cod);
+  return Esito::avanti;
+}
+
+bool copia_fuori(const Iscritto& i, const QString& cartella, const Copia& in_corso) {
+  if (!QFile::exists(i.file)) return false;
+  const QString meta = QDir(cartella).filePath(nome_di(i.cod, i.cognome) + u".orzaline"_s);
+  if (!domanda(
+          u"Si è deciso di copiare i dati del cliente "_s + i.cognome + u"\nin ..\n"_s + meta + u"\nContinuare ?"_s,
+          orzaline_control, Icona::informazione)) {
+    return false;
+  }
+  if (in_corso) in_corso();
+  sostituisci_file(i.file, meta);
+  return true;
+}
+
+}  // namespace
+
+void esporta_cliente(int cod, const QString& cartella, const Copia& in_corso) {
+  bool copiato = false;
+  abbandona([&] {
+    const auto scelto = iscritto(cod);
+    copiato = scelto && copia_fuori(*scelto, cartella, in_corso);
+  });
+  if (copiato) return messaggio(u"File esportato con successo !"_s, {}, Icona::esclamazione);
+  messaggio(u"Esportazione fallita !!"_s, {}, Icona::critica);
+}
+
+void importa_clienti(const QStringList& file, const Copia& in_corso) {
+  try {
+    for (const QString& f : file) {
+      if (importa(f, in_corso) == Esito::fine) return;
+    }
+  } catch (const Errore&) {
+    return messaggio(u"Importazione fallita !"_s);
+  }
+  messaggio(u"Importazione riuscita !"_s);
+}
+
+void scrivi_cod_importato(const QString& file, std::int16_t cod) {
+  Archivio(file).esegui(u"UPDATE anagrafe SET cod = ? WHERE rowid = (SELECT min(rowid) FROM anagrafe)"_s, cod);
+}

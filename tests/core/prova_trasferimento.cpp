@@ -1,0 +1,229 @@
+// Export and import of client files: what goes out, what comes in, and what is refused.
+#include "core/formi_e.h"
+#include "core/trasferimento.h"
+
+#include "ambiente.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString titolo = u"Orzaline control"_s;
+const Atteso importata{u"Importazione riuscita !"_s, {}}, importazione_fallita{u"Importazione fallita !"_s, {}};
+const Atteso esportato{u"File esportato con successo !"_s, {}}, esportazione_fallita{u"Esportazione fallita !!"_s, {}};
+
+Atteso codice_preso(int libero, bool risposta = true) {
+  return {
+      u"Attenzione: il codice del cliente che si è deciso di importare esiste già.\n"
+      "Il cliente verrà inserito con codice %1\nContinuare ?"_s.arg(libero),
+      titolo, risposta};
+}
+
+struct ProvaTrasferimento : Ambiente {
+  ProvaTrasferimento() {
+    schedario().esegui(u"DELETE FROM schedario"_s);
+    mostra<Mdiorza>();
+    schermata<Mdiorza>().cmdsopra[9]->click();
+    QDir(cartella.path()).mkdir(u"fuori"_s);
+  }
+  Formi_e& f = schermata<Formi_e>();
+  const QString fuori = percorso(u"fuori"_s);
+
+  /// A client's file outside the archive.
+  QString straniero(const QString& nome, const QVariant& cod, const QVariant& cognome) const {
+    const QString file = QDir(fuori).filePath(nome + u".orzaline"_s);
+    scrivi(file, contenuto(cliente("1900_ferri")));
+    Archivio(file).esegui(u"UPDATE anagrafe SET cod = ?, cognome = ?"_s, cod, cognome);
+    return file;
+  }
+  QString grezzo(const QString& nome, const QByteArray& dentro) const {
+    const QString file = QDir(fuori).filePath(nome + u".orzaline"_s);
+    scrivi(file, dentro);
+    return file;
+  }
+  static QStringList registro() {
+    QStringList righe;
+    for (const Iscritto& i : iscritti()) {
+      righe << u"%1 %2 %3"_s.arg(i.cod).arg(i.cognome, QDir(percorso({})).relativeFilePath(i.file));
+    }
+    return righe;
+  }
+  static int cod_nel_file(const QString& file) {
+    return Archivio(percorso(file)).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"].toInt();
+  }
+  [[nodiscard]] QStringList cartelle() const {
+    return QDir(cartella.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+  }
+};
+
+}  // namespace
+
+TEST_F(ProvaTrasferimento, AnImportedClientGetsRowFolderAndWholeSurname) {
+  const QString origine = straniero(u"a"_s, 12, u"DE ROSSI"_s);
+  const QByteArray prima = contenuto(origine);
+  Dialogo d({importata});
+  importa_clienti({origine});
+  EXPECT_EQ(registro(), QStringList{u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline"_s});
+  EXPECT_EQ(cod_nel_file(u"12_DE ROSSI/12_DE ROSSI.orzaline"_s), 12);
+  EXPECT_EQ(contenuto(origine), prima);
+}
+
+TEST_F(ProvaTrasferimento, ATakenNumberIsReplacedAfterAQuestion) {
+  const QString primo = straniero(u"a"_s, 12, u"ROSSI"_s), secondo = straniero(u"b"_s, 12, u"VERDI"_s);
+  const QString terzo = straniero(u"c"_s, 3, u"NERI"_s);
+  Dialogo d({codice_preso(13), importata});
+  importa_clienti({primo, secondo, terzo});
+  EXPECT_EQ(registro(), (QStringList{u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"12 ROSSI 12_ROSSI/12_ROSSI.orzaline"_s,
+                                     u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s}));
+  EXPECT_EQ(cod_nel_file(u"13_VERDI/13_VERDI.orzaline"_s), 13);
+  EXPECT_EQ(Archivio(secondo).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"], 12);
+  d.attendi(codice_preso(14, false));
+  importa_clienti({primo, straniero(u"d"_s, 50, u"BLU"_s)});
+  EXPECT_EQ(registro().size(), 3) << "a No ends the whole import, without a word";
+}
+
+TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
+  const QByteArray buono = contenuto(cliente("1900_ferri"));
+  QByteArray guasto = buono, caso(4096, '\0');
+  guasto[guasto.size() - 500] = static_cast<char>(guasto[guasto.size() - 500] + 1);
+  for (qsizetype i = 0; i < caso.size(); ++i) caso[i] = static_cast<char>(i * i * 31 + i / 7);
+  const QString monca = straniero(u"monca"_s, 5, u"ROSSI"_s);
+  Archivio(monca).esegui(u"DROP TABLE dieta"_s);
+  const QString altra = QDir(fuori).filePath(u"altra.orzaline"_s);
+  Archivio(altra, u";PWD=altra", Archivio::Modo::nuovo).esegui_copione(u"CREATE TABLE anagrafe (cod, cognome)"_s);
+  const QString buono_prima = straniero(u"prima"_s, 1, u"PRIMA"_s);
+  const QStringList rifiutati{grezzo(u"vuoto"_s, {}),
+                              grezzo(u"mozzo"_s, buono.chopped(1024)),
+                              grezzo(u"moncone"_s, buono.left(700)),
+                              grezzo(u"guasto"_s, guasto),
+                              grezzo(u"caso"_s, caso),
+                              altra,
+                              monca,
+                              percorso(u"fc.jed"_s),
+                              straniero(u"esce"_s, 6, u"X/../../ROSSI"_s),
+                              straniero(u"senza"_s, {}, u"ROSSI"_s),
+                              straniero(u"anonimo"_s, 6, {}),
+                              straniero(u"grande"_s, 40000, u"ROSSI"_s),
+                              straniero(u"testo"_s, u"dodici"_s, u"ROSSI"_s),
+                              QDir(fuori).filePath(u"manca.orzaline"_s)};
+  const QStringList prima = cartelle();
+  for (const QString& file : rifiutati) {
+    Dialogo d({importazione_fallita});
+    importa_clienti({file, buono_prima});
+    EXPECT_TRUE(registro().isEmpty()) << file.toStdString();
+    EXPECT_EQ(cartelle(), prima) << file.toStdString();
+  }
+}
+
+TEST_F(ProvaTrasferimento, AFileWithoutAClientEndsTheImportAfterTheEarlierOnes) {
+  const QString vuoto = straniero(u"b"_s, 2, u"B"_s);
+  Archivio(vuoto).esegui(u"DELETE FROM anagrafe"_s);
+  Dialogo d;
+  importa_clienti({straniero(u"a"_s, 1, u"A"_s), vuoto, straniero(u"c"_s, 3, u"C"_s)});
+  EXPECT_EQ(registro(), QStringList{u"1 A 1_A/1_A.orzaline"_s});
+}
+
+TEST_F(ProvaTrasferimento, AFolderThatIsThereIsNotWrittenOver) {
+  scrivi(percorso(u"4_NERI/4_NERI.orzaline"_s), "di un altro");
+  Dialogo d({importata});
+  importa_clienti({straniero(u"a"_s, 4, u"NERI"_s)});
+  EXPECT_EQ(contenuto(percorso(u"4_NERI/4_NERI.orzaline"_s)), "di un altro");
+  EXPECT_EQ(registro().size(), 1);
+}
+
+TEST_F(ProvaTrasferimento, AnImportThatFailsInTheCopyLeavesARowForTheArchiveToRemove) {
+  scrivi(percorso(u"8_BLU"_s), "un file, dove starebbe la cartella");
+  Dialogo d({importazione_fallita});
+  importa_clienti({straniero(u"a"_s, 8, u"BLU"_s)});
+  EXPECT_EQ(registro().size(), 1);
+  schermata<Mdiorza>().cmdsopra[0]->click();
+  EXPECT_TRUE(registro().isEmpty());
+}
+
+TEST_F(ProvaTrasferimento, AnExportIsTheFileByteForByte) {
+  const int cod = registra(cliente("1900_ferri"));
+  const QByteArray file = contenuto(iscritto(cod)->file);
+  const QString meta = QDir(fuori).filePath(u"2_FERRI.orzaline"_s);
+  const Atteso continuare{u"Si è deciso di copiare i dati del cliente FERRI\nin ..\n"_s + meta + u"\nContinuare ?"_s,
+                          titolo};
+  grezzo(u"2_FERRI"_s, "vecchio");
+  Dialogo d({{continuare.testo, titolo, false}, esportazione_fallita});
+  esporta_cliente(cod, fuori);
+  EXPECT_EQ(contenuto(meta), "vecchio");
+  d.attendi(continuare);
+  d.attendi(esportato);
+  esporta_cliente(cod, fuori + u'/');
+  EXPECT_EQ(contenuto(meta), file);
+  d.attendi(esportazione_fallita);
+  esporta_cliente(99, fuori);
+  d.attendi({u"Si è deciso di copiare i dati del cliente FERRI\nin ..\n"_s + percorso(u"manca/2_FERRI.orzaline"_s) +
+                 u"\nContinuare ?"_s,
+             titolo});
+  d.attendi(esportazione_fallita);
+  esporta_cliente(cod, percorso(u"manca"_s));
+  QFile::remove(iscritto(cod)->file);
+  d.attendi(esportazione_fallita);
+  esporta_cliente(cod, fuori);
+}
+
+TEST_F(ProvaTrasferimento, TheScreenExportsTheChosenClientAndImportsTheChosenFiles) {
+  EXPECT_FALSE(f.MSFlexGrid1->isEnabled() || f.Command2->isEnabled());
+  EXPECT_EQ(f.Dir1->cartella(), QDir::homePath());
+  EXPECT_EQ(f.Dir2->cartella(), QDir(percorso({})).absolutePath());
+  straniero(u"a"_s, 1, u"ALBA"_s);
+  straniero(u"b"_s, 2, u"BRUNI"_s);
+  grezzo(u"lettera"_s, "Gentile");
+  QFile::rename(QDir(fuori).filePath(u"lettera.orzaline"_s), QDir(fuori).filePath(u"lettera.txt"_s));
+  ASSERT_TRUE(f.Dir2->vai(fuori));
+  EXPECT_EQ(f.File1->count(), 2);
+  EXPECT_FALSE(f.Cmdimp->isEnabled());
+  f.File1->selectAll();
+  Dialogo d({importata});
+  f.Cmdimp->click();
+  EXPECT_EQ(f.Cmdimp->text(), u"Importa"_s);
+  EXPECT_FALSE(f.Animation->isVisible());
+  ASSERT_EQ(f.MSFlexGrid1->rowCount(), 2);
+  f.MSFlexGrid1->selectRow(1);
+  ASSERT_TRUE(f.Dir1->vai(fuori));
+  d.attendi({u"Si è deciso di copiare i dati del cliente BRUNI\nin ..\n"_s +
+                 QDir(fuori).filePath(u"2_BRUNI.orzaline"_s) + u"\nContinuare ?"_s,
+             titolo});
+  d.attendi(esportato);
+  f.Command2->click();
+  EXPECT_EQ(contenuto(QDir(fuori).filePath(u"2_BRUNI.orzaline"_s)), contenuto(iscritto(2)->file));
+}
+
+TEST_F(ProvaTrasferimento, ADriveThatDoesNotAnswerLeavesTheListsWhereTheyWere) {
+  const std::tuple<QComboBox*, Cartelle*, QString> casi[]{{f.Drive1, f.Dir1, u"Periferica non pronta !"_s},
+                                                          {f.Drive2, f.Dir2, u"Dischetto non inserito !"_s}};
+  for (const auto& [drive, dir, testo] : casi) {
+    const int prima = drive->currentIndex();
+    const QString dove = dir->cartella();
+    drive->addItem(u"A:"_s, percorso(u"non_montato"_s));
+    Dialogo d({{testo, {}}});
+    scegli(drive, drive->count() - 1);
+    EXPECT_EQ(drive->currentIndex(), prima);
+    EXPECT_EQ(dir->cartella(), dove);
+    drive->addItem(u"B:"_s, fuori);
+    scegli(drive, drive->count() - 1);
+    EXPECT_EQ(dir->cartella(), fuori);
+  }
+}
+
+TEST_F(ProvaTrasferimento, FoldersAreWalkedDownAndUp) {
+  QDir(fuori).mkpath(u"anno 2026/marzo"_s);
+  ASSERT_TRUE(f.Dir1->vai(fuori));
+  const auto apri = [&](const QString& nome) {
+    for (int i = 0; i < f.Dir1->count(); ++i) {
+      if (f.Dir1->item(i)->text().trimmed() == nome) return emit f.Dir1->itemActivated(f.Dir1->item(i));
+    }
+    FAIL() << nome.toStdString();
+  };
+  apri(u"anno 2026"_s);
+  apri(u"marzo"_s);
+  EXPECT_EQ(f.Dir1->cartella(), fuori + u"/anno 2026/marzo"_s);
+  apri(u"fuori"_s);
+  EXPECT_EQ(f.Dir1->cartella(), fuori);
+  EXPECT_FALSE(f.Dir1->vai(fuori + u"/manca"_s));
+  EXPECT_EQ(f.Dir1->cartella(), fuori);
+}
