@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QTest>
 #include <deque>
+#include <optional>
 #include <vector>
 
 /// A box that must come: its words, its title, and the answer to it.
@@ -18,6 +19,7 @@ struct Atteso {
   QString testo;
   QString titolo;
   bool risposta = true;
+  std::optional<Icona> icona = {};  // not looked at where none is given
 };
 
 /// Expected boxes in order; an unexpected one fails the test at once, one that does not come fails it at the end.
@@ -38,7 +40,8 @@ class Dialogo {
 
  private:
   bool rispondi(const Riquadro& r) {
-    if (attesi_.empty() || attesi_.front().testo != r.testo || attesi_.front().titolo != r.titolo) {
+    if (attesi_.empty() || attesi_.front().testo != r.testo || attesi_.front().titolo != r.titolo ||
+        attesi_.front().icona.value_or(r.icona) != r.icona) {
       ADD_FAILURE() << "unexpected box: " << r.titolo.toStdString() << " | " << r.testo.toStdString();
       return false;
     }

@@ -100,8 +100,10 @@ void elimina_cliente() {
   const int riga = f.riga_scelta();
   if (riga < 0) return;
   const QString cod = f.testo(riga, 0), cognome = f.testo(riga, 2), nome = f.testo(riga, 3);
-  if (!domanda(u"Sei sicuro di voler eliminare il cliente \n    "_s + cognome + u' ' + nome, u"Orzaline control"_s))
+  if (!domanda(u"Sei sicuro di voler eliminare il cliente \n    "_s + cognome + u' ' + nome, u"Orzaline control"_s,
+               Icona::nessuna)) {
     return;
+  }
   cancella_iscritto(cod.toInt());
   elimina_cartella(cod + u'_' + cognome);
   f.togli_riga(riga);

@@ -90,16 +90,16 @@ void Formi_e::elenca_file() {
   File1->addItems(QDir(Dir2->cartella()).entryList({u"*.orzaline"_s}, QDir::Files, QDir::Name | QDir::LocaleAware));
 }
 
-void Formi_e::mostra_copia() {
+void Formi_e::mostra_copia(bool in_corso) {
   Animation->setRange(0, 0);
-  Animation->show();
+  Animation->setVisible(in_corso);
   Animation->repaint();
 }
 
 void Formi_e::esporta() {
   const auto scelte = MSFlexGrid1->selectionModel()->selectedRows();
   if (scelte.isEmpty()) return;
-  esporta_cliente(scelte.front().data().toInt(), Dir1->cartella(), [this] { mostra_copia(); });
+  esporta_cliente(scelte.front().data().toInt(), Dir1->cartella(), [this](bool si) { mostra_copia(si); });
   Animation->hide();
 }
 
@@ -110,7 +110,7 @@ void Formi_e::importa() {
   }
   Cmdimp->setText(u"Attendere..."_s);
   Cmdimp->repaint();
-  importa_clienti(scelti, [this] { mostra_copia(); });
+  importa_clienti(scelti, [this](bool si) { mostra_copia(si); });
   riempi_elenco_esporta();
   Animation->hide();
   Cmdimp->setText(u"Importa"_s);

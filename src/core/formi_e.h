@@ -34,5 +34,5 @@ class Formi_e : public QWidget {
   void elenca_file();
   void esporta();
   void importa();
-  void mostra_copia();
+  void mostra_copia(bool in_corso);
 };

@@ -75,6 +75,7 @@ void Formsched::cambia_scheda() {
   imposta_tabella();
   riempi_schedario(SSTabschedario->currentIndex());
   ordina();
+  if (Tabella->rowCount() > 0) Tabella->selectRow(0);
   aggiorna_comandi_schedario();
 }
 

@@ -55,7 +55,10 @@ void Formsched::disegna() {
   Tabella = griglia(u"Tabella"_s, colonne);
   Tabella->setToolTip(u"Clienti in schedario"_s);
   Tabella->setFixedWidth(larghezza_di(colonne));
-  c.griglia->addWidget(guida(u"cliccare sul cliente per selezionarlo"_s), 0, 0, 1, 2);
+  c.griglia->addWidget(guida(u"cliccare sul cliente per selezionarlo"_s), 0, 0);
+  QLabel* nota = guida(u"Ricordarsi di lasciarlo selezionato su TUTTI, altrimenti non va la prima selezione !!!"_s);
+  nota->setAlignment(Qt::AlignRight);
+  c.griglia->addWidget(nota, 3, 0);
   c.griglia->addWidget(SSTabschedario, 1, 0, 1, 2);
   c.griglia->addWidget(Tabella, 2, 0);
   c.griglia->addLayout(disegna_comandi(), 2, 1);

@@ -50,17 +50,15 @@ void frmLogin::ok() {
     txtPassword->setFocus();
     txtPassword->selectAll();
   } else {
-    entra();
+    archivio_.reset();
+    scarica<frmLogin>();
+    mostra<Mdiorza>();
   }
 }
 
 void frmLogin::primo_ingresso() {
   archivio_->esegui(u"INSERT INTO login (nome_utente, password) VALUES (?, ?)"_s, txtUserName->text().trimmed(),
                     txtPassword->text().trimmed());
-  entra();
-}
-
-void frmLogin::entra() {
   archivio_.reset();
   mostra<Mdiorza>();
   scarica<frmLogin>();

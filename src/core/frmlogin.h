@@ -31,7 +31,6 @@ class frmLogin : public QDialog {
   void ok();
   void annulla();
   void primo_ingresso();
-  void entra();
 
   std::optional<Archivio> archivio_;
   QString password_;  // as stored

@@ -81,6 +81,7 @@ Mdiorza::Mdiorza() {
 
 Mdiorza::~Mdiorza() {
   ospita_con({});
+  davanti_ = nullptr;  // at the end nobody comes in front any more
   while (!figlie_.empty()) congeda(*figlie_.begin()->first);
 }
 

@@ -67,6 +67,14 @@ QVariantMap riga_anagrafe() {
   return riga;
 }
 
+/// Provinces, municipalities and what hangs on them. The choice of a municipality writes its postal code; the client's
+/// own, already there, stays.
+void riempi_luoghi(Formanag& f, const QVariantMap& riga) {
+  const QString cap = f.Txtcap->text();
+  riempi_anagrafe(f, riga, campi_dei_luoghi());
+  f.Txtcap->setText(cap);
+}
+
 void carica_anagrafe() {
   Formanag& f = schermata<Formanag>();
   const QVariantMap riga = riga_anagrafe();
@@ -74,7 +82,7 @@ void carica_anagrafe() {
   if (f.isHidden()) {
     carica_scheda(f, riga);
   } else {
-    riempi_anagrafe(f, riga, campi_dei_luoghi());
+    riempi_luoghi(f, riga);
   }
 }
 
@@ -111,5 +119,5 @@ void carica_luoghi() {
   if (liste_piene(f)) return;
   f.apri_comuni();
   apri_dati_tmp(Scopo::caricare);
-  riempi_anagrafe(f, riga_anagrafe(), campi_dei_luoghi());
+  riempi_luoghi(f, riga_anagrafe());
 }

@@ -85,7 +85,7 @@ Esito importa(const QString& origine, const Copia& in_corso) {
   const QString file = QDir(cartella).filePath(nome + u".orzaline"_s);
   iscrivi({*cod, straniero->cognome, file});
   if (QDir(cartella).exists()) return Esito::avanti;
-  if (in_corso) in_corso();
+  if (in_corso) in_corso(true);
   porta_dentro(origine, cartella, file, *cod);
   return Esito::avanti;
 }
@@ -98,8 +98,9 @@ bool copia_fuori(const Iscritto& i, const QString& cartella, const Copia& in_cor
           orzaline_control, Icona::informazione)) {
     return false;
   }
-  if (in_corso) in_corso();
+  if (in_corso) in_corso(true);
   sostituisci_file(i.file, meta);
+  if (in_corso) in_corso(false);
   return true;
 }
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <functional>
 
-/// Called when a copy begins, so that the screen can show it.
-using Copia = std::function<void()>;
+/// Called when a copy begins and when it ends, so that the screen can show it.
+using Copia = std::function<void(bool in_corso)>;
 
 /// Copies the file of a client to a folder as `cod_cognome.orzaline`, after a question. Anything but a copy made,
 /// a No included, is told as a failure.

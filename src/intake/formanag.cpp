@@ -159,7 +159,7 @@ void Formanag::cambia_provincia(int quale) {
   if (quale == nascita) {
     Labcom->setText(estera ? u"Paese di nascita"_s : u"Comune Nascita"_s);
   } else {
-    labcom2->setText(estera ? u"Paese Residenza"_s : u"Comune Residenza"_s);
+    labcom2->setText(estera ? u"Paese di residenza"_s : u"Comune Residenza"_s);
   }
   riempi_comuni(provincia, quale);
 }

@@ -185,7 +185,7 @@ QWidget* Formanag::disegna_foto() {
   picfoto = nominato(new QLabel, u"picfoto"_s);
   picfoto->setProperty("ruolo", u"valore"_s);
   picfoto->setAlignment(Qt::AlignCenter);
-  picfoto->setFixedWidth(112);
+  picfoto->setFixedSize(112, 82);  // known before the layout is: photos are loaded unseen
   picfoto->setAccessibleName(u"Foto del cliente"_s);
   Commapri = pulsante(u"Commapri"_s, u"Cerca foto"_s, u"Ricerca la foto del cliente"_s);
   c.griglia->addWidget(picfoto, 0, 0);

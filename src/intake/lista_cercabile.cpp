@@ -11,6 +11,7 @@ constexpr int righe_in_vista = 14;
 
 /// The only line that begins with a text, -1 where there are none or several.
 int sola_riga(const QComboBox& lista, const QString& inizio) {
+  if (const int intera = lista.findText(inizio, Qt::MatchFixedString); !inizio.isEmpty() && intera >= 0) return intera;
   const auto trovate = lista.model()->match(lista.model()->index(0, lista.modelColumn()), Qt::DisplayRole, inizio, 2,
                                             Qt::MatchStartsWith);
   return inizio.isEmpty() || trovate.size() != 1 ? -1 : trovate.first().row();

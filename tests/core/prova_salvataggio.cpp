@@ -2,6 +2,7 @@
 #include "core/salvataggio.h"
 
 #include "core/formalert.h"
+#include "core/formi_e.h"
 #include "core/mdiorza.h"
 #include "core/registro.h"
 #include "core/salva_carica.h"
@@ -228,6 +229,45 @@ TEST_F(ProvaSalvataggio, ACopyThatFailsLeavesTheOldFileWholeAndSaysWhich) {
   QDir().rmdir(file + u".nuovo"_s);
   salva({domanda_rubrica(), avviso(false)});
   EXPECT_EQ(anagrafe(file).value(u"peso"_s), 70.0);
+}
+
+TEST_F(ProvaSalvataggio, APostalCodeTypedByHandOutlivesTheMunicipalitysOwn) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  schermata<Formanag>().Txtcap->setText(u"65129"_s);
+  salva({domanda_semplice()});
+  scarica<Formanag>();
+  mostra<Formelabora>();
+  salva({domanda_rubrica(), avviso(false)});  // loads the master data unseen, for the address book
+  scarica_schede();
+  mostra<Formanag>();
+  EXPECT_EQ(schermata<Formanag>().Txtcap->text(), u"65129"_s);
+  EXPECT_EQ(anagrafe(percorso_cliente()).value(u"cap"_s), u"65129"_s);
+}
+
+TEST_F(ProvaSalvataggio, ADamagedWorkingCopyNeverReplacesAClientsFile) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  salva({domanda_semplice()});
+  const QString file = percorso_cliente();
+  const QByteArray prima = contenuto(file);
+  scarica_schede();
+  chiudi_archivi();
+  QByteArray rovinata = contenuto(percorso(u"dati.tmp"_s));
+  rovinata[rovinata.size() - 100] = static_cast<char>(rovinata[rovinata.size() - 100] ^ 1);
+  scrivi(percorso(u"dati.tmp"_s), rovinata);
+  EXPECT_THROW(salva_su_file_cliente(), Errore);
+  EXPECT_EQ(contenuto(file), prima);
+}
+
+TEST_F(ProvaSalvataggio, TheEndOfTheProgramLeavesNoWorkingCopyWhateverScreensAreOpen) {
+  comincia(u"ROSSI"_s, u"MARIA"_s);
+  mostra<Formi_e>();
+  {
+    Dialogo d({{u"Sei sicuro di voler uscire dal programma ?"_s, u"Orzaline control"_s, true, Icona::domanda}});
+    EXPECT_TRUE(m.chiedi_uscita());
+  }
+  abbandona_schermate();
+  EXPECT_FALSE(esiste_dati_tmp());
+  EXPECT_EQ(caricata<Mdiorza>(), nullptr);
 }
 
 TEST_F(ProvaSalvataggio, WithoutAWorkingCopyAClientsFileIsSafe) {
