@@ -9,10 +9,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+constexpr QColor inchiostro{0x1f, 0x2a, 0x30};
+}
+
 void imposta_aspetto(QApplication& app) {
   Q_INIT_RESOURCE(pictures);
   app.setStyle(QStyleFactory::create(u"Fusion"_s));
-  app.setPalette(app.style()->standardPalette());
+  QPalette colori = app.style()->standardPalette();
+  for (const auto ruolo : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    for (const auto gruppo : {QPalette::Active, QPalette::Inactive}) colori.setColor(gruppo, ruolo, inchiostro);
+  }
+  app.setPalette(colori);
   QFont carattere(u"Liberation Sans"_s);
   carattere.setPixelSize(11);
   app.setFont(carattere);

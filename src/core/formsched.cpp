@@ -86,6 +86,9 @@ void Formsched::imposta_tabella() {
 
 void Formsched::aggiungi(const QStringList& testi) {
   aggiungi_riga(Tabella, testi);
+  QFont stretto = Tabella->font();  // a fiscal code of twenty signs just fills its column
+  stretto.setLetterSpacing(QFont::AbsoluteSpacing, -0.5);
+  Tabella->item(Tabella->rowCount() - 1, Tabella->columnCount() - 1)->setFont(stretto);
   conta();
 }
 

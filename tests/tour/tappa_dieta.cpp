@@ -1,6 +1,7 @@
 #include "base/archivio.h"
 #include "core/formsched.h"
 #include "core/mdiorza.h"
+#include "core/registro.h"
 #include "core/sessione.h"
 #include "diet/formelabora.h"
 #include "passi.h"
@@ -17,11 +18,12 @@ void richiama(const QString& cognome) {
   auto& m = schermata<Mdiorza>();
   clic(m.cmdsopra[0]);
   auto& s = schermata<Formsched>();
-  s.SSTabschedario->setCurrentIndex(cognome[0].unicode() - u'A');
+  s.SSTabschedario->setCurrentIndex(cognome == u"BIANCHI" ? scheda_tutti : cognome[0].unicode() - u'A');
   int riga = 0;
   while (riga < s.Tabella->rowCount() && s.testo(riga, 2) != cognome) ++riga;
   pretendi(riga < s.Tabella->rowCount(), "the client is not in the archive");
   scegli(s.Tabella, riga);
+  quadro(m, cognome.toLower() + u"_archivio"_s);
   clic(s.Command10[2]);
   clic(m.cmdsopra[5]);
   pretendi(caricata<Formelabora>() != nullptr, "the elaboration did not open");
