@@ -32,15 +32,21 @@ class Ambiente : public ::testing::Test {
   [[nodiscard]] static QString cliente(const char* nome) {
     return QStringLiteral(CARTELLA_ARCHIVI "/esempi/") + QString::fromLatin1(nome) + QStringLiteral(".orzaline");
   }
-  static QByteArray contenuto(const QString& file) {
-    QFile f(file);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no file)");
+  /// The registry's rows: number, surname, and the file from the program's folder.
+  static QStringList registro() {
+    QStringList righe;
+    for (const Iscritto& i : iscritti()) {
+      righe << QStringLiteral("%1 %2 %3").arg(i.cod).arg(i.cognome, QDir(percorso({})).relativeFilePath(i.file));
+    }
+    return righe;
   }
-  static void scrivi(const QString& file, const QByteArray& contenuto) {
-    QDir().mkpath(QFileInfo(file).path());
-    QFile f(file);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(contenuto);
+  static QStringList banner() {
+    const Mdiorza& m = schermata<Mdiorza>();
+    QStringList testi;
+    for (const QLineEdit* c : {m.Txtcod, m.Txtsoggetto, m.Txtsesso, m.Txtetà, m.Txtstatura, m.Txtpeso, m.Txtbmi}) {
+      testi << c->text();
+    }
+    return testi;
   }
 
   /// Puts a client's file into the archive as a general save would: folder, copy, row. Returns its number.

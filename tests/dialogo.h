@@ -1,10 +1,10 @@
 // The user's part in a test: message boxes answered in order, errors collected, lists chosen from.
 #pragma once
 
+#include "attrezzi.h"
 #include "base/errori.h"
 #include "core/errore_non_gestito.h"
 #include "core/messaggi.h"
-#include "stampa.h"
 
 #include <gtest/gtest.h>
 #include <QAbstractItemView>

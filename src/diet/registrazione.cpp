@@ -15,14 +15,14 @@ void registra_pasto(Motore& motore, int d, int m, int settimana) {
   }
 }
 
-void conta_usi(const Motore& motore, Spuntati& spuntati, Archivio& dati, int d, int m) {
+void conta_usi(const Motore& motore, Spuntati& spuntati, int d, int m) {
   std::vector<std::pair<std::int16_t, std::int16_t>> cibi;
   for (int i = 0; i < posti; ++i) {
     const voce_pasto& v = motore.menu(motore.settimana_corrente, d, m, i);
     if (v.cod1 == 0) break;
     cibi.emplace_back(v.cod1, v.cod2);
   }
-  spuntati.conta_uso_alimenti(dati, cibi, m);
+  spuntati.conta_uso_alimenti(cibi, m);
 }
 
 voce_pasto voce_integratore(const Riga& r) {

@@ -7,8 +7,8 @@
 /// Copies the working meal into the menu, sorted by group; what stood there goes.
 void registra_pasto(Motore& motore, int d, int m, int settimana);
 
-/// Counts the foods of the meal just recorded in the client's list, all or none.
-void conta_usi(const Motore& motore, Spuntati& spuntati, Archivio& dati, int d, int m);
+/// Counts the foods of the meal just recorded in the client's list.
+void conta_usi(const Motore& motore, Spuntati& spuntati, int d, int m);
 
 /// A row of `Integratore_dieta` as an entry of a lunch. Throws Errore 6 for an overflow.
 [[nodiscard]] voce_pasto voce_integratore(const Riga& r);

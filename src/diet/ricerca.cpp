@@ -57,6 +57,7 @@ class Elaborazione {
 
   Archivio& dati();
   void prepara();
+  void finisci(bool intera);
   void apri_giorno();
   void compensa_cena();
   Esito elabora_giorno();
@@ -115,14 +116,21 @@ void Elaborazione::esegui() {
   for (m_ = s_.ripresa_pasto; m_ < pasti; ++m_) {
     for (d_ = s_.ripresa_giorno; d_ < giorni; ++d_) {
       const Esito esito = elabora_giorno();
-      if (esito == Esito::sospesa) return tramite_.termine(false);
+      if (esito == Esito::sospesa) return finisci(false);
       if (esito == Esito::salta_pasto) break;
     }
     s_.ripresa_giorno = 0;
   }
   s_.ripresa_pasto = 0;
   s_.ripresa_giorno = 0;
-  tramite_.termine(true);
+  finisci(true);
+}
+
+/// The uses of the foods go to the store in one piece: one write a meal would take a third of the time of a week.
+void Elaborazione::finisci(bool intera) {
+  prosegui([&] { c_.spuntati.scrivi_usi(dati()); });
+  dati_.reset();
+  tramite_.termine(intera);
 }
 
 void Elaborazione::apri_giorno() {
@@ -174,7 +182,7 @@ void Elaborazione::bilancia() {
 
 void Elaborazione::registra() {
   prosegui([&] { registra_pasto(s_, d_, m_, s_.settimana_corrente); });
-  if (m_ == pranzo || m_ == cena) prosegui([&] { conta_usi(s_, c_.spuntati, dati(), d_, m_); });
+  if (m_ == pranzo || m_ == cena) prosegui([&] { conta_usi(s_, c_.spuntati, d_, m_); });
 }
 
 void Elaborazione::pasto_leggero() {

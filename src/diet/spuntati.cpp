@@ -57,25 +57,27 @@ const std::vector<const Spuntato*>& Spuntati::per_gruppo(Segno segno, std::int16
   return cod1 >= 0 && cod1 < int{valori} ? posto(gruppi_, segno, pasto, cod1) : nessuno;
 }
 
-void Spuntati::conta_uso_alimenti(Archivio& dati, const std::vector<std::pair<std::int16_t, std::int16_t>>& cibi,
-                                  int m) {
+void Spuntati::conta_uso_alimenti(const std::vector<std::pair<std::int16_t, std::int16_t>>& cibi, int m) {
   const bool pranzo = m == 2;
-  std::vector<QVariantList> chiavi;
-  chiavi.reserve(cibi.size());
-  for (const auto& [cod1, cod2] : cibi) chiavi.push_back({cod1, cod2, m + 2});
-  dati.transazione([&] {
-    dati.esegui_serie(pranzo ? u"update alimenti_spuntati set n_volte_pranzo=n_volte_pranzo+1 "
-                               "where (not lv and not sd) and cod1=? and cod2=? and pasto=?"_s
-                             : u"update alimenti_spuntati set n_volte_cena=n_volte_cena+1 "
-                               "where (not lv and not sd) and cod1=? and cod2=? and pasto=?"_s,
-                      chiavi);
-  });
+  for (const auto& [cod1, cod2] : cibi) da_scrivere_[pranzo ? 0 : 1].push_back({cod1, cod2, m + 2});
   for (Spuntato& r : righe_) {
     if (r.lv || r.sd || r.pasto != m + 2) continue;
     const auto volte = static_cast<std::int16_t>(std::ranges::count(cibi, std::pair(r.cod1, r.cod2)));
     auto& contatore = pranzo ? r.n_volte_pranzo : r.n_volte_cena;
     contatore = static_cast<std::int16_t>(contatore + volte);
   }
+}
+
+void Spuntati::scrivi_usi(Archivio& dati) {
+  const std::array comandi{
+      u"update alimenti_spuntati set n_volte_pranzo=n_volte_pranzo+1 "
+      "where (not lv and not sd) and cod1=? and cod2=? and pasto=?"_s,
+      u"update alimenti_spuntati set n_volte_cena=n_volte_cena+1 "
+      "where (not lv and not sd) and cod1=? and cod2=? and pasto=?"_s};
+  dati.transazione([&] {
+    for (std::size_t i = 0; i < comandi.size(); ++i) dati.esegui_serie(comandi[i], da_scrivere_[i]);
+  });
+  da_scrivere_ = {};
 }
 
 void Spuntati::azzera_n_volte(Archivio& dati) {

@@ -36,9 +36,12 @@ class Spuntati {
   [[nodiscard]] const std::vector<const Spuntato*>& per_portata(Segno segno, std::int16_t pasto, int cod3) const;
   [[nodiscard]] const std::vector<const Spuntato*>& per_gruppo(Segno segno, std::int16_t pasto, int cod1) const;
 
-  /// Counts one use of each food (cod1, cod2) at lunch (m 2) or dinner (m 4) in the store, all or none, and here.
-  /// Obligatory foods are not counted.
-  void conta_uso_alimenti(Archivio& dati, const std::vector<std::pair<std::int16_t, std::int16_t>>& cibi, int m);
+  /// Counts one use of each food (cod1, cod2) at lunch (m 2) or dinner (m 4), for the draws at once and for the store
+  /// at the next `scrivi_usi`. Obligatory foods are not counted.
+  void conta_uso_alimenti(const std::vector<std::pair<std::int16_t, std::int16_t>>& cibi, int m);
+
+  /// Writes the uses counted since the last time to the store, all or none.
+  void scrivi_usi(Archivio& dati);
 
   /// Sets all use counters to 0, in the store and here.
   void azzera_n_volte(Archivio& dati);
@@ -52,6 +55,7 @@ class Spuntati {
   void indicizza();
 
   std::vector<Spuntato> righe_;
+  std::array<std::vector<QVariantList>, 2> da_scrivere_;  // uses at lunch, at dinner
   std::array<Elenco, pasti_codici> offerti_;
   PerPasto portate_, gruppi_;
 };

@@ -1,5 +1,6 @@
 #include "base/date.h"
 #include "core/aspetto.h"
+#include "core/schermate.h"
 #include "intake/formanag.h"
 #include "intake/lista_cercabile.h"
 
@@ -136,6 +137,7 @@ QPushButton* pulsantino(const QString& nome, const QString& scritta, const QStri
 }  // namespace
 
 void Formanag::disegna() {
+  prendi_posto(*this);
   setObjectName(u"Formanag"_s);
   setWindowTitle(u"Scheda Anagrafica"_s);
   auto* colonna = new QVBoxLayout(this);

@@ -1,38 +1,13 @@
 // Stores: what is none is refused and left untouched; whole-file copies leave one state or the other.
+#include "attrezzi.h"
 #include "base/archivio.h"
-#include "base/errori.h"
 #include "base/file.h"
-#include "stampa.h"
 
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray contenuto(const QString& file) {
-  QFile f(file);
-  return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("?");
-}
-
-void scrivi(const QString& file, const QByteArray& dati) {
-  QFile f(file);
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(dati);
-}
-
-template <class F>
-int numero_errore(F&& f) {
-  try {
-    f();
-  } catch (const Errore& e) {
-    return e.numero;
-  }
-  return 0;
-}
 
 class ProvaArchivio : public ::testing::Test {
  protected:
@@ -67,20 +42,11 @@ TEST_F(ProvaArchivio, WhatIsNoStoreIsRefusedAndLeftUntouched) {
   const QString file = nuovo(u"a.jed"_s);
   const QByteArray buono = contenuto(file);
   EXPECT_FALSE(buono.contains("SQLite format")) << "the whole file is encrypted";
-  struct Caso {
-    const char* che;
-    QByteArray dati;
-  };
-  QByteArray rovinato = buono;
-  rovinato[200] = static_cast<char>(rovinato[200] ^ 1);
-  for (const Caso& c : {Caso{"empty", {}},
-                        {"short", buono.left(100)},
-                        {"text", QByteArray(5000, 'x')},
-                        {"truncated", buono.left(4096)},
-                        {"one bit changed", rovinato}}) {
-    scrivi(file, c.dati);
-    EXPECT_EQ(numero_errore([&] { (void)Archivio(file).righe(u"SELECT * FROM t"_s); }), 3343) << c.che;
-    EXPECT_EQ(contenuto(file), c.dati) << c.che;
+  for (const QByteArray& dati :
+       {QByteArray(), buono.left(100), QByteArray(5000, 'x'), buono.left(4096), rovinato(buono, 200)}) {
+    scrivi(file, dati);
+    EXPECT_EQ(numero_errore([&] { (void)Archivio(file).righe(u"SELECT * FROM t"_s); }), 3343) << dati.size();
+    EXPECT_EQ(contenuto(file), dati) << dati.size();
   }
   const QString altra = nuovo(u"b.jed"_s, u";PWD=altra");
   EXPECT_EQ(numero_errore([&] { Archivio a(altra); }), 3343) << "another password";
@@ -92,13 +58,11 @@ TEST_F(ProvaArchivio, WhatIsNoStoreIsRefusedAndLeftUntouched) {
 
 TEST_F(ProvaArchivio, AFailedGroupOfWritesLeavesNothing) {
   Archivio a(nuovo(u"a.jed"_s));
-  EXPECT_EQ(numero_errore([&] {
-              a.transazione([&] {
-                a.esegui(u"DELETE FROM t"_s);
-                a.esegui(u"INSERT INTO manca VALUES (1)"_s);
-              });
-            }),
-            3078);
+  const auto gruppo = [&] {
+    a.esegui(u"DELETE FROM t"_s);
+    a.esegui(u"INSERT INTO manca VALUES (1)"_s);
+  };
+  EXPECT_EQ(numero_errore([&] { a.transazione(gruppo); }), 3078);
   EXPECT_EQ(a.righe(u"SELECT * FROM t"_s).size(), 300U);
 }
 

@@ -37,10 +37,11 @@ struct ProvaArchivio : Ambiente {
   }
   void apri() { m.cmdsopra[0]->click(); }
   static Formsched& archivio() { return schermata<Formsched>(); }
-  static QStringList colonna(int quale) {
+  /// The numbers of the clients that are listed.
+  static QString codici() {
     QStringList testi;
-    for (int r = 0; r < archivio().Tabella->rowCount(); ++r) testi << archivio().testo(r, quale);
-    return testi;
+    for (int r = 0; r < archivio().Tabella->rowCount(); ++r) testi << archivio().testo(r, 0);
+    return testi.join(u' ');
   }
   static void scheda(int tab) {
     QTest::mouseClick(archivio().SSTabschedario, Qt::LeftButton, {}, archivio().SSTabschedario->tabRect(tab).center());
@@ -74,19 +75,15 @@ TEST_F(ProvaArchivio, EachTabListsItsLetterInOrder) {
     aggiungi(c);
   }
   apri();
-  struct Prova {
-    int tab;
-    QStringList codici;
-  };
-  EXPECT_EQ(colonna(0), (QStringList{u"20"_s, u"7"_s})) << "the archive opens on A";
-  for (const Prova& p : {Prova{1, {u"3"_s}}, Prova{3, {u"12"_s}}, Prova{4, {}}, Prova{25, {u"5"_s}},
-                         Prova{26, {u"20"_s, u"7"_s, u"3"_s, u"12"_s, u"5"_s, u"11"_s, u"9"_s}}}) {
-    scheda(p.tab);
-    EXPECT_EQ(colonna(0), p.codici) << p.tab;
-    EXPECT_EQ(archivio().Txtcont->text(), QString::number(p.codici.size())) << p.tab;
-    EXPECT_EQ(comandi(), p.codici.isEmpty() ? tutti_spenti : tutti_accesi) << p.tab;
+  EXPECT_EQ(codici(), u"20 7"_s) << "the archive opens on A";
+  const std::pair<int, QString> casi[]{{1, u"3"_s}, {3, u"12"_s}, {4, {}}, {25, u"5"_s}, {26, u"20 7 3 12 5 11 9"_s}};
+  for (const auto& [tab, attesi] : casi) {
+    scheda(tab);
+    EXPECT_EQ(codici(), attesi) << tab;
+    EXPECT_EQ(archivio().Txtcont->text(), QString::number(archivio().Tabella->rowCount())) << tab;
+    EXPECT_EQ(comandi(), attesi.isEmpty() ? tutti_spenti : tutti_accesi) << tab;
   }
-  EXPECT_EQ(colonna(2).at(3), u"DE ROSSI"_s) << "the surname is the file's, not the registry's";
+  EXPECT_EQ(archivio().testo(3, 2), u"DE ROSSI"_s) << "the surname is the file's, not the registry's";
   archivio().Command10[3]->click();
   EXPECT_FALSE(caricata<Formsched>());
   EXPECT_FALSE(m.afc->isEnabled());
@@ -115,14 +112,14 @@ TEST_F(ProvaArchivio, AFileThatIsGoneTakesItsRowAlongAndOneThatCannotBeReadKeeps
         "2 AMATO: Il file '2_AMATO.orzaline' è danneggiato, non è un archivio o ha un'altra password."_s,
         u"Orzaline  control"_s}});
   apri();
-  EXPECT_EQ(colonna(0), (QStringList{u"3"_s, u"4"_s}));
+  EXPECT_EQ(codici(), u"3 4"_s);
   EXPECT_EQ(registro(), (QStringList{u"2 AMATO"_s, u"3 ARCO"_s, u"4 ASTI"_s}));
   QFile::remove(file_di({3, u"ARCO"_s, {}}));
   d.attendi({u"La cartella di ARCO è stata danneggiata\nmodificata o altro, i suoi dati andranno persi !"_s,
              u"Orzaline  control"_s});
   scheda(26);
   EXPECT_EQ(registro(), (QStringList{u"2 AMATO"_s, u"4 ASTI"_s}));
-  EXPECT_EQ(colonna(0), QStringList{u"4"_s});
+  EXPECT_EQ(codici(), u"4"_s);
 }
 
 TEST_F(ProvaArchivio, AClientIsRecalledByButtonMenuAndDoubleClick) {
@@ -157,13 +154,11 @@ TEST_F(ProvaArchivio, AFileThatIsNoWholeClientIsNotRecalled) {
   const Cliente c{2, u"AMATO"_s, u"UGO"_s};
   aggiungi(c);
   const QByteArray buono = contenuto(file_di(c));
-  QByteArray guasto = buono;
-  guasto[guasto.size() - 500] = static_cast<char>(guasto[guasto.size() - 500] + 1);
   apri();
   clic_su(0);
   Dialogo d;
   for (const QByteArray& dentro :
-       {QByteArray("Gentile signora"), buono.chopped(1024), guasto, QByteArray(), contenuto(percorso(u"fc.jed"_s))}) {
+       {QByteArray(), buono.chopped(1024), rovinato(buono, buono.size() - 500), contenuto(percorso(u"fc.jed"_s))}) {
     scrivi(file_di(c), dentro);
     d.attendi(errore_caricamento);
     archivio().Command10[2]->click();
@@ -216,7 +211,7 @@ TEST_F(ProvaArchivio, DeletingAsksAndTakesRowFolderAndLine) {
   QTest::keyClick(archivio().Tabella, Qt::Key_Delete);
   EXPECT_EQ(registro(), QStringList{u"3 ARCO"_s});
   EXPECT_FALSE(QDir(percorso(u"2_AMATO"_s)).exists());
-  EXPECT_EQ(colonna(0), QStringList{u"3"_s});
+  EXPECT_EQ(codici(), u"3"_s);
   EXPECT_EQ(archivio().Txtcont->text(), u"1"_s);
   clic_su(0);
   d.attendi({u"Sei sicuro di voler eliminare il cliente \n    ARCO PIO"_s, u"Orzaline control"_s});
@@ -245,33 +240,30 @@ TEST_F(ProvaArchivio, TheSearchFindsTheFirstLineAtOrAfterTheText) {
     aggiungi(c);
   }
   apri();
-  struct Prova {
-    std::size_t tipo;
-    QString digitato;
-    QString trovato;  // cod, empty for none
-  };
-  for (const Prova& p : {Prova{1, u"bruni"_s, u"3"_s}, Prova{1, u"c"_s, u"100"_s}, Prova{1, u"de rossi"_s, u"25"_s},
-                         Prova{1, u"e"_s, {}}, Prova{0, u"3"_s, u"3"_s}, Prova{0, u"2"_s, u"3"_s},
-                         Prova{0, u"100"_s, u"12"_s}, Prova{0, u"9"_s, {}}}) {
+  // By code or by surname, what is typed, the code that is found.
+  const std::tuple<std::size_t, QString, QString> casi[]{
+      {1, u"bruni"_s, u"3"_s}, {1, u"c"_s, u"100"_s}, {1, u"de rossi"_s, u"25"_s}, {1, u"e"_s, {}},
+      {0, u"3"_s, u"3"_s},     {0, u"2"_s, u"3"_s},   {0, u"100"_s, u"12"_s},      {0, u"9"_s, {}}};
+  for (const auto& [tipo, digitato, trovato] : casi) {
     scheda(0);
     archivio().Command10[1]->click();
     auto& r = schermata<Formricerca>();
     EXPECT_FALSE(r.cmdricerca->isEnabled());
-    r.Option1[p.tipo]->click();
-    EXPECT_EQ(r.Label1->text(), p.tipo == 0 ? u"Immettere il codice"_s : u"Immettere il cognome"_s);
-    QTest::keyClicks(r.Textval, p.digitato);
-    EXPECT_EQ(r.Textval->text(), p.digitato.toUpper());
+    r.Option1[tipo]->click();
+    EXPECT_EQ(r.Label1->text(), tipo == 0 ? u"Immettere il codice"_s : u"Immettere il cognome"_s);
+    QTest::keyClicks(r.Textval, digitato);
+    EXPECT_EQ(r.Textval->text(), digitato.toUpper());
     r.cmdricerca->click();
-    const std::string nome = p.digitato.toStdString();
-    EXPECT_EQ(caricata<Formricerca>() == nullptr, !p.trovato.isEmpty()) << nome;
-    if (p.trovato.isEmpty()) {
+    const std::string nome = digitato.toStdString();
+    EXPECT_EQ(caricata<Formricerca>() == nullptr, !trovato.isEmpty()) << nome;
+    if (trovato.isEmpty()) {
       EXPECT_TRUE(r.Labelatt->isVisible()) << nome;
       r.Textval->setText(u"  "_s);
       EXPECT_FALSE(r.Labelatt->isVisible() || r.cmdricerca->isEnabled()) << nome;
       r.Command1->click();
       continue;
     }
-    EXPECT_EQ(archivio().testo(archivio().riga_scelta(), 0), p.trovato) << nome;
+    EXPECT_EQ(archivio().testo(archivio().riga_scelta(), 0), trovato) << nome;
     EXPECT_EQ(m.focusWidget(), archivio().Tabella) << nome;
   }
 }
@@ -313,6 +305,6 @@ TEST_F(ProvaArchivio, ComingBackToTheArchiveListsItAnew) {
   EXPECT_FALSE(m.afc->isEnabled()) << "the archive is not in front";
   aggiungi({13, u"ARCO"_s, u"PIO"_s});
   schermata<Formi_e>().Command3->click();
-  EXPECT_EQ(colonna(0), (QStringList{u"12"_s, u"13"_s}));
+  EXPECT_EQ(codici(), u"12 13"_s);
   EXPECT_TRUE(m.afc->isEnabled());
 }

@@ -17,41 +17,20 @@ const QString salvati = u"Si sta uscendo dall'archivio del soggetto.\nSono stati
 struct ProvaFinestra : Ambiente {
   ProvaFinestra() { mostra<Mdiorza>(); }
   Mdiorza& m = schermata<Mdiorza>();
-
-  [[nodiscard]] QStringList banner() const {
-    QStringList testi;
-    for (QLineEdit* c : {m.Txtcod, m.Txtsoggetto, m.Txtsesso, m.Txtetà, m.Txtstatura, m.Txtpeso, m.Txtbmi}) {
-      testi += c->text();
-    }
-    return testi;
-  }
 };
 
 }  // namespace
 
 TEST_F(ProvaFinestra, BannerAndToolbarFollowTheStage) {
   EXPECT_FALSE(m.Statusbar->isVisible());
-  struct Prova {
-    const char* codice;
-    std::size_t pulsante;  // 0 for none
-  };
-  for (const Prova& c : {Prova{"0", 1},
-                         {"3", 2},
-                         {"4", 8},
-                         {"5", 3},
-                         {"9", 7},
-                         {"1", 15},
-                         {"7", 4},
-                         {"8", 5},
-                         {"10", 6},
-                         {"6", 0},
-                         {"-1", 0}}) {
-    m.qualeform.setText(QString::fromLatin1(c.codice));
-    const bool aperto = *c.codice != '-';
-    EXPECT_EQ(m.Statusbar->isVisible(), aperto) << c.codice;
-    EXPECT_EQ(m.cmdsopra[5]->isEnabled(), aperto) << c.codice;
+  const std::pair<int, std::size_t> pulsanti[]{{0, 1}, {3, 2}, {4, 8},  {5, 3}, {9, 7}, {1, 15},
+                                               {7, 4}, {8, 5}, {10, 6}, {6, 0}, {-1, 0}};  // 0 for none
+  for (const auto& [codice, pulsante] : pulsanti) {
+    m.qualeform.setText(QString::number(codice));
+    EXPECT_EQ(m.Statusbar->isVisible(), codice >= 0) << codice;
+    EXPECT_EQ(m.cmdsopra[5]->isEnabled(), codice >= 0) << codice;
     for (std::size_t i = 0; i < m.cmdsopra.size(); ++i) {
-      EXPECT_EQ(m.cmdsopra[i]->isChecked(), c.pulsante == i && i > 0) << c.codice << ' ' << i;
+      EXPECT_EQ(m.cmdsopra[i]->isChecked(), pulsante == i && i > 0) << codice << ' ' << i;
     }
   }
 }
@@ -67,43 +46,32 @@ TEST_F(ProvaFinestra, AJumpPassesThroughNoStageAndEndsOnTheStagesButton) {
   EXPECT_TRUE(schermata<Formelabora>().isVisible());
 }
 
-TEST_F(ProvaFinestra, HelpFollowsTheStageAndAnUnknownCodeLeavesTheDocument) {
-  QStringList aperti;
-  esterno().apri_documento = [&](const QString& file) {
-    aperti += QDir(cartella.path()).relativeFilePath(file);
-    return true;
-  };
-  struct Prova {
-    const char* codice;
-    QString documento;
-  };
-  const Prova casi[]{
-      {"-1", u"00_Guida_Premessa"_s},     {"0", u"02_Guida_Anagrafica"_s},   {"3", u"03_Guida_DatiPersonali"_s},
-      {"1", u"03_Guida_DatiPersonali"_s}, {"4", u"04_Guida_anPatologica"_s}, {"5", u"05_Guida_Antropo"_s},
-      {"6", u"10_Guida_Attività"_s},      {"9", u"06_Guida_DiarioAlim"_s},   {"7", u"07_Guida_SceltAlim"_s},
-      {"8", u"08_Guida_Elaboraz"_s},      {"10", u"09_Guida_Trattam"_s}};
-  for (const Prova& c : casi) {
-    const QString documento = u"help/"_s + c.documento + u".doc"_s;
-    scrivi(percorso(documento), "guida");
-    m.qualeform.setText(QString::fromLatin1(c.codice));
+TEST_F(ProvaFinestra, HelpFollowsTheStageAndTheArchive) {
+  QString aperto;
+  esterno().apri_documento = [&](const QString& file) { return aperto = file, true; };
+  const auto aiuto_apre = [&](const QString& nome) {
+    const QString documento = percorso(u"help/"_s + nome + u".doc"_s);
+    scrivi(documento, "guida");
     m.menuaiuto->trigger();
-    EXPECT_EQ(aperti.takeLast(), documento) << c.codice;
+    EXPECT_EQ(aperto, documento);
+  };
+  aiuto_apre(u"00_Guida_Premessa"_s);
+  m.cmdsopra[0]->click();
+  aiuto_apre(u"01_Guida_inizio"_s);
+  scarica<Formsched>();
+  const std::pair<int, QString> casi[]{
+      {-1, u"00_Guida_Premessa"_s},     {0, u"02_Guida_Anagrafica"_s},   {3, u"03_Guida_DatiPersonali"_s},
+      {1, u"03_Guida_DatiPersonali"_s}, {4, u"04_Guida_anPatologica"_s}, {5, u"05_Guida_Antropo"_s},
+      {6, u"10_Guida_Attività"_s},      {9, u"06_Guida_DiarioAlim"_s},   {7, u"07_Guida_SceltAlim"_s},
+      {8, u"08_Guida_Elaboraz"_s},      {10, u"09_Guida_Trattam"_s}};
+  for (const auto& [codice, documento] : casi) {
+    m.qualeform.setText(QString::number(codice));
+    aiuto_apre(documento);
   }
   QFile::remove(percorso(u"help/09_Guida_Trattam.doc"_s));
   Fallimenti f;
   m.cmdsopra[13]->click();
   EXPECT_EQ(f.numeri, std::vector{53});
-}
-
-TEST_F(ProvaFinestra, TheHelpOfTheArchiveAndOfTheEmptyWindow) {
-  QString aperto;
-  esterno().apri_documento = [&](const QString& file) { return aperto = QFileInfo(file).baseName(), true; };
-  for (const QString& nome : {u"00_Guida_Premessa"_s, u"01_Guida_inizio"_s}) {
-    scrivi(percorso(u"help/"_s + nome + u".doc"_s), "guida");
-    m.menuaiuto->trigger();
-    EXPECT_EQ(aperto, nome);
-    m.cmdsopra[0]->click();
-  }
 }
 
 TEST_F(ProvaFinestra, TheMoveButtonsPassOverStagesWithoutAScreen) {
@@ -140,7 +108,8 @@ TEST_F(ProvaFinestra, ThePopupOfTheReportsSavesTheStageAndOpensTheDocumentsThatA
 }
 
 TEST_F(ProvaFinestra, LeavingAClientAsksAndThrowsTheWorkingCopyAway) {
-  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
+  const int cod = registra(cliente("1900_ferri"));
+  ASSERT_TRUE(apri_elaborazione(cod));
   dieta_caricata = true;
   Dialogo d({{salvati, u"ORZALINE 2003"_s, false}, {salvati, u"ORZALINE 2003"_s, true}});
   m.Command2[0]->click();
@@ -153,10 +122,9 @@ TEST_F(ProvaFinestra, LeavingAClientAsksAndThrowsTheWorkingCopyAway) {
   EXPECT_FALSE(m.Statusbar->isVisible());
   EXPECT_FALSE(m.Command2[1]->isEnabled());
   EXPECT_EQ(banner().join(QString()), QString());
-}
 
-TEST_F(ProvaFinestra, TheMenuClosesWithoutAQuestionAndKeepsTheBannersTexts) {
-  ASSERT_TRUE(apri_elaborazione(registra(cliente("1900_ferri"))));
+  // The menu asks nothing and keeps the banner's texts.
+  ASSERT_TRUE(apri_elaborazione(cod));
   const QStringList scritte = banner();
   m.menuchiudi->trigger();
   EXPECT_FALSE(caricata<Formelabora>());

@@ -48,15 +48,6 @@ struct Schermo : QWidget {
 
 const Sezione tre_liste{{u"liste"_s, vettore(u"Combo"_s, 0, 2), Come::lista_posizioni}};
 
-int errore_di(const std::function<void()>& cosa) {
-  try {
-    cosa();
-  } catch (const Errore& e) {
-    return e.numero;
-  }
-  return 0;
-}
-
 struct ProvaSezioni : Ambiente {
   Schermo s;
 
@@ -73,12 +64,7 @@ struct ProvaSezioni : Ambiente {
 }  // namespace
 
 TEST_F(ProvaSezioni, AControlBecomesAFieldAsItsKindSays) {
-  struct Prova {
-    Come come;
-    QString scritto;
-    QVariant campo;
-  };
-  const Prova casi[]{
+  const std::tuple<Come, QString, QVariant> casi[]{
       {Come::testo, u" a "_s, u" a "_s},        {Come::rifilato, u" a "_s, u"a"_s},
       {Come::se_numero, u"72,25"_s, 72.25},     {Come::se_numero, u""_s, {}},
       {Come::se_singolo, u"72,1"_s, 72.1F},     {Come::se_intero, u"2,5"_s, 2},
@@ -86,13 +72,13 @@ TEST_F(ProvaSezioni, AControlBecomesAFieldAsItsKindSays) {
       {Come::se_numero_rifilato, u" - "_s, {}}, {Come::data, u"1-2-85"_s, u"01/02/1985"_s},
       {Come::se_data, u"29/02/2025"_s, {}},
   };
-  for (const Prova& c : casi) {
-    s.testo->setText(c.scritto);
-    EXPECT_EQ(leggi_controlli(s, {{u"x"_s, {u"Text1"_s}, c.come}}).value(u"x"_s), c.campo) << c.scritto.toStdString();
+  for (const auto& [come, scritto, atteso] : casi) {
+    s.testo->setText(scritto);
+    EXPECT_EQ(leggi_controlli(s, {{u"x"_s, {u"Text1"_s}, come}}).value(u"x"_s), atteso) << scritto.toStdString();
   }
   s.testo->setText(u"40000"_s);
-  EXPECT_EQ(errore_di([&] { (void)leggi_controlli(s, {{u"x"_s, {u"Text1"_s}, Come::se_intero}}); }), 6);
-  EXPECT_EQ(errore_di([&] { (void)leggi_controlli(s, {{u"x"_s, {u"Text2"_s}, Come::testo}}); }), 424);
+  EXPECT_EQ(numero_errore([&] { (void)leggi_controlli(s, {{u"x"_s, {u"Text1"_s}, Come::se_intero}}); }), 6);
+  EXPECT_EQ(numero_errore([&] { (void)leggi_controlli(s, {{u"x"_s, {u"Text2"_s}, Come::testo}}); }), 424);
 }
 
 TEST_F(ProvaSezioni, ListsAndSexGoThereAndBack) {
@@ -120,20 +106,17 @@ TEST_F(ProvaSezioni, ListsAndSexGoThereAndBack) {
 }
 
 TEST_F(ProvaSezioni, AStoredListFillsNoMoreThanItHas) {
-  struct Prova {
-    QString lista;
-    QList<int> posizioni;
+  const std::tuple<QString, QList<int>, SeFallisce> casi[]{
+      {u"2,"_s, {2, 1, 1}, SeFallisce::lancia},           {u"2,0"_s, {2, 1, 1}, SeFallisce::lancia},
+      {u"0,-1,2,1,9,"_s, {0, -1, 2}, SeFallisce::lancia}, {u""_s, {1, 1, 1}, SeFallisce::lancia},
+      {u"3,,0,"_s, {1, 1, 0}, SeFallisce::prosegue},  // a position outside its list is passed over
   };
-  for (const Prova& c : {Prova{u"2,"_s, {2, 1, 1}}, Prova{u"2,0"_s, {2, 1, 1}}, Prova{u"0,-1,2,1,9,"_s, {0, -1, 2}},
-                         Prova{u""_s, {1, 1, 1}}}) {
-    for (QComboBox* lista : s.liste) lista->setCurrentIndex(1);
-    riempi_controlli(s, tre_liste, {{u"liste"_s, c.lista}});
-    EXPECT_EQ(s.posizioni(), c.posizioni) << c.lista.toStdString();
+  for (const auto& [lista, attese, se_fallisce] : casi) {
+    for (QComboBox* una : s.liste) una->setCurrentIndex(1);
+    riempi_controlli(s, tre_liste, {{u"liste"_s, lista}}, se_fallisce);
+    EXPECT_EQ(s.posizioni(), attese) << lista.toStdString();
   }
-  for (QComboBox* lista : s.liste) lista->setCurrentIndex(1);
-  riempi_controlli(s, tre_liste, {{u"liste"_s, u"3,,0,"_s}}, SeFallisce::prosegue);
-  EXPECT_EQ(s.posizioni(), (QList<int>{1, 1, 0})) << "a position outside its list is passed over, the next goes on";
-  EXPECT_EQ(errore_di([&] { riempi_controlli(s, tre_liste, {{u"liste"_s, u"3,0,0,"_s}}); }), 380);
+  EXPECT_EQ(numero_errore([&] { riempi_controlli(s, tre_liste, {{u"liste"_s, u"3,0,0,"_s}}); }), 380);
 }
 
 TEST_F(ProvaSezioni, ANullOrUnreadableNumberLeavesItsControl) {
@@ -158,30 +141,26 @@ TEST_F(ProvaSezioni, RowsAreAddedOnceAndThenChangedFieldByField) {
   ASSERT_EQ(righe.size(), 2U);
   EXPECT_EQ(righe[0], (QVariantMap{{u"data_p"_s, u"01/02/2026"_s}, {u"max"_s, 130LL}, {u"min"_s, 85LL}}));
   EXPECT_EQ(righe[1], (QVariantMap{{u"data_p"_s, u"seconda"_s}}));
-  EXPECT_EQ(errore_di([&] { salva_righe(a, u"pressione"_s, {{{u"max"_s, 1}}, {{u"polso"_s, 2}}}); }), 3075);
+  EXPECT_EQ(numero_errore([&] { salva_righe(a, u"pressione"_s, {{{u"max"_s, 1}}, {{u"polso"_s, 2}}}); }), 3075);
   EXPECT_EQ(carica_righe(a, u"pressione"_s), righe) << "a replacement that fails leaves the old rows";
   salva_righe(a, u"pressione"_s, {{}, {{u"max"_s, 120}}});
   EXPECT_EQ(carica_righe(a, u"pressione"_s), (std::vector<QVariantMap>{{}, {{u"max"_s, 120LL}}}));
 }
 
 TEST_F(ProvaSezioni, EachSectionCoversItsTable) {
-  struct Prova {
-    QString tabella;
-    Sezione sezione;
-    std::set<QString> altri;  // columns that no control feeds
-  };
   const std::set<QString> numero{u"cod_cli"_s};
-  const Prova casi[]{
+  // Each with the columns that no control feeds.
+  const std::tuple<QString, Sezione, std::set<QString>> casi[]{
       {u"anagrafe"_s, sezione_anagrafe(), {u"foto"_s}},  {u"sport"_s, sezione_sport(), {}},
       {u"personale"_s, sezione_personale(), numero},     {u"Anamnesi"_s, sezione_anamnesi(), {}},
       {u"farmaci"_s, sezioni_farmaci().back(), {}},      {u"pressione"_s, sezioni_pressione().back(), {}},
       {u"dietologica"_s, sezione_dietologica(), numero}, {u"trattamento"_s, sezione_trattamento(), numero},
   };
   apri_dati_tmp(Scopo::salvare);
-  for (const Prova& c : casi) {
-    std::set<QString> campi = c.altri;
-    for (const Campo& f : c.sezione) campi.insert(f.campo);
-    EXPECT_EQ(campi, colonne(c.tabella)) << c.tabella.toStdString();
+  for (const auto& [tabella, sezione, altri] : casi) {
+    std::set<QString> campi = altri;
+    for (const Campo& f : sezione) campi.insert(f.campo);
+    EXPECT_EQ(campi, colonne(tabella)) << tabella.toStdString();
   }
   const auto esami = [](const QStringList& l) { return std::set<QString>(l.begin(), l.end()); };
   EXPECT_EQ(esami(esami_scritti()), colonne(u"esami"_s));
@@ -277,7 +256,7 @@ TEST_F(ProvaSezioni, AStageWithoutASectionOnlyOpensTheWorkingCopy) {
   }
   QFile::remove(percorso(u"matrix.jed"_s));
   elimina_dati_tmp();
-  EXPECT_EQ(errore_di([] { salva_cliente(0); }), 53);
+  EXPECT_EQ(numero_errore([] { salva_cliente(0); }), 53);
   Dialogo d({{u"Problemi nella creazione dei files temporanei, chiudere i files usati da Orzaline !"_s, {}}});
   carica_cliente(8);
 }

@@ -19,6 +19,11 @@ Atteso codice_preso(int libero, bool risposta = true) {
       titolo, risposta};
 }
 
+Atteso copiare(const QString& chi, const QString& meta, bool risposta = true) {
+  return {u"Si è deciso di copiare i dati del cliente "_s + chi + u"\nin ..\n"_s + meta + u"\nContinuare ?"_s, titolo,
+          risposta};
+}
+
 struct ProvaTrasferimento : Ambiente {
   ProvaTrasferimento() {
     schedario().esegui(u"DELETE FROM schedario"_s);
@@ -41,13 +46,6 @@ struct ProvaTrasferimento : Ambiente {
     scrivi(file, dentro);
     return file;
   }
-  static QStringList registro() {
-    QStringList righe;
-    for (const Iscritto& i : iscritti()) {
-      righe << u"%1 %2 %3"_s.arg(i.cod).arg(i.cognome, QDir(percorso({})).relativeFilePath(i.file));
-    }
-    return righe;
-  }
   static int cod_nel_file(const QString& file) {
     return Archivio(percorso(file)).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"].toInt();
   }
@@ -58,25 +56,17 @@ struct ProvaTrasferimento : Ambiente {
 
 }  // namespace
 
-TEST_F(ProvaTrasferimento, AnImportedClientGetsRowFolderAndWholeSurname) {
-  const QString origine = straniero(u"a"_s, 12, u"DE ROSSI"_s);
-  const QByteArray prima = contenuto(origine);
-  Dialogo d({importata});
-  importa_clienti({origine});
-  EXPECT_EQ(registro(), QStringList{u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline"_s});
-  EXPECT_EQ(cod_nel_file(u"12_DE ROSSI/12_DE ROSSI.orzaline"_s), 12);
-  EXPECT_EQ(contenuto(origine), prima);
-}
-
-TEST_F(ProvaTrasferimento, ATakenNumberIsReplacedAfterAQuestion) {
-  const QString primo = straniero(u"a"_s, 12, u"ROSSI"_s), secondo = straniero(u"b"_s, 12, u"VERDI"_s);
+TEST_F(ProvaTrasferimento, ImportedClientsGetRowFolderWholeSurnameAndAFreeNumber) {
+  const QString primo = straniero(u"a"_s, 12, u"DE ROSSI"_s), secondo = straniero(u"b"_s, 12, u"VERDI"_s);
   const QString terzo = straniero(u"c"_s, 3, u"NERI"_s);
+  const QByteArray prima = contenuto(secondo);
   Dialogo d({codice_preso(13), importata});
   importa_clienti({primo, secondo, terzo});
-  EXPECT_EQ(registro(), (QStringList{u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"12 ROSSI 12_ROSSI/12_ROSSI.orzaline"_s,
-                                     u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s}));
+  EXPECT_EQ(registro(), (QStringList{u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline"_s,
+                                     u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s}));
+  EXPECT_EQ(cod_nel_file(u"12_DE ROSSI/12_DE ROSSI.orzaline"_s), 12);
   EXPECT_EQ(cod_nel_file(u"13_VERDI/13_VERDI.orzaline"_s), 13);
-  EXPECT_EQ(Archivio(secondo).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"], 12);
+  EXPECT_EQ(contenuto(secondo), prima);
   d.attendi(codice_preso(14, false));
   importa_clienti({primo, straniero(u"d"_s, 50, u"BLU"_s)});
   EXPECT_EQ(registro().size(), 3) << "a No ends the whole import, without a word";
@@ -84,9 +74,6 @@ TEST_F(ProvaTrasferimento, ATakenNumberIsReplacedAfterAQuestion) {
 
 TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
   const QByteArray buono = contenuto(cliente("1900_ferri"));
-  QByteArray guasto = buono, caso(4096, '\0');
-  guasto[guasto.size() - 500] = static_cast<char>(guasto[guasto.size() - 500] + 1);
-  for (qsizetype i = 0; i < caso.size(); ++i) caso[i] = static_cast<char>(i * i * 31 + i / 7);
   const QString monca = straniero(u"monca"_s, 5, u"ROSSI"_s);
   Archivio(monca).esegui(u"DROP TABLE dieta"_s);
   const QString altra = QDir(fuori).filePath(u"altra.orzaline"_s);
@@ -94,9 +81,7 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
   const QString buono_prima = straniero(u"prima"_s, 1, u"PRIMA"_s);
   const QStringList rifiutati{grezzo(u"vuoto"_s, {}),
                               grezzo(u"mozzo"_s, buono.chopped(1024)),
-                              grezzo(u"moncone"_s, buono.left(700)),
-                              grezzo(u"guasto"_s, guasto),
-                              grezzo(u"caso"_s, caso),
+                              grezzo(u"guasto"_s, rovinato(buono, buono.size() - 500)),
                               altra,
                               monca,
                               percorso(u"fc.jed"_s),
@@ -144,21 +129,17 @@ TEST_F(ProvaTrasferimento, AnExportIsTheFileByteForByte) {
   const int cod = registra(cliente("1900_ferri"));
   const QByteArray file = contenuto(iscritto(cod)->file);
   const QString meta = QDir(fuori).filePath(u"2_FERRI.orzaline"_s);
-  const Atteso continuare{u"Si è deciso di copiare i dati del cliente FERRI\nin ..\n"_s + meta + u"\nContinuare ?"_s,
-                          titolo};
   grezzo(u"2_FERRI"_s, "vecchio");
-  Dialogo d({{continuare.testo, titolo, false}, esportazione_fallita});
+  Dialogo d({copiare(u"FERRI"_s, meta, false), esportazione_fallita});
   esporta_cliente(cod, fuori);
   EXPECT_EQ(contenuto(meta), "vecchio");
-  d.attendi(continuare);
+  d.attendi(copiare(u"FERRI"_s, meta));
   d.attendi(esportato);
   esporta_cliente(cod, fuori + u'/');
   EXPECT_EQ(contenuto(meta), file);
   d.attendi(esportazione_fallita);
   esporta_cliente(99, fuori);
-  d.attendi({u"Si è deciso di copiare i dati del cliente FERRI\nin ..\n"_s + percorso(u"manca/2_FERRI.orzaline"_s) +
-                 u"\nContinuare ?"_s,
-             titolo});
+  d.attendi(copiare(u"FERRI"_s, percorso(u"manca/2_FERRI.orzaline"_s)));
   d.attendi(esportazione_fallita);
   esporta_cliente(cod, percorso(u"manca"_s));
   QFile::remove(iscritto(cod)->file);
@@ -172,8 +153,7 @@ TEST_F(ProvaTrasferimento, TheScreenExportsTheChosenClientAndImportsTheChosenFil
   EXPECT_EQ(f.Dir2->cartella(), QDir(percorso({})).absolutePath());
   straniero(u"a"_s, 1, u"ALBA"_s);
   straniero(u"b"_s, 2, u"BRUNI"_s);
-  grezzo(u"lettera"_s, "Gentile");
-  QFile::rename(QDir(fuori).filePath(u"lettera.orzaline"_s), QDir(fuori).filePath(u"lettera.txt"_s));
+  scrivi(QDir(fuori).filePath(u"lettera.txt"_s), "Gentile");
   ASSERT_TRUE(f.Dir2->vai(fuori));
   EXPECT_EQ(f.File1->count(), 2);
   EXPECT_FALSE(f.Cmdimp->isEnabled());
@@ -185,9 +165,7 @@ TEST_F(ProvaTrasferimento, TheScreenExportsTheChosenClientAndImportsTheChosenFil
   ASSERT_EQ(f.MSFlexGrid1->rowCount(), 2);
   f.MSFlexGrid1->selectRow(1);
   ASSERT_TRUE(f.Dir1->vai(fuori));
-  d.attendi({u"Si è deciso di copiare i dati del cliente BRUNI\nin ..\n"_s +
-                 QDir(fuori).filePath(u"2_BRUNI.orzaline"_s) + u"\nContinuare ?"_s,
-             titolo});
+  d.attendi(copiare(u"BRUNI"_s, QDir(fuori).filePath(u"2_BRUNI.orzaline"_s)));
   d.attendi(esportato);
   f.Command2->click();
   EXPECT_EQ(contenuto(QDir(fuori).filePath(u"2_BRUNI.orzaline"_s)), contenuto(iscritto(2)->file));

@@ -1,12 +1,10 @@
 // A bench for the diet engine: a folder with a working copy and a food store of a few foods, and draws told in advance.
 #pragma once
 
+#include "attrezzi.h"
 #include "base/archivio.h"
 #include "diet/contesto.h"
 
-#include <gtest/gtest.h>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <deque>
 
@@ -31,9 +29,7 @@ class Banco : public ::testing::Test {
   ~Banco() override { imposta_cartella({}); }
 
   static QString schema(const char* nome) {
-    QFile f(QStringLiteral(CARTELLA_SORGENTI) + QStringLiteral("/stores/") + QString::fromUtf8(nome));
-    if (!f.open(QIODevice::ReadOnly)) ADD_FAILURE() << nome;
-    return QString::fromUtf8(f.readAll());
+    return QString::fromUtf8(contenuto(QStringLiteral(CARTELLA_SORGENTI "/stores/") + QString::fromUtf8(nome)));
   }
 
   static Archivio nuovo(const char* nome, const char* da_schema) {
@@ -75,6 +71,10 @@ class Banco : public ::testing::Test {
 
   /// Draws told in advance, as "which of how many"; asking for more fails the test.
   struct Estrazioni {
+    explicit Estrazioni(const std::vector<std::pair<int, int>>& tirate = {}) {
+      for (const auto& [quale, n] : tirate) prossima(quale, n);
+    }
+
     std::deque<double> attese;
     Caso caso{[this] {
                 if (attese.empty()) {

@@ -1,10 +1,9 @@
 // The acceptance test of a meal: tolerances, their inclusive and exclusive ends, the odometer and its rounding.
-#include "base/errori.h"
+#include "attrezzi.h"
 #include "base/numeri.h"
 #include "diet/bilancio.h"
-#include "stampa.h"
+#include "diet/voce.h"
 
-#include <gtest/gtest.h>
 #include <cmath>
 #include <random>
 
@@ -21,17 +20,10 @@ struct Voce {
 void componi(Motore& m, const std::vector<Voce>& voci) {
   m.svuota_pasto();
   for (const Voce& v : voci) {
-    m.pasto_lavoro[static_cast<std::size_t>(m.conta_voci++)] = {.cod1 = 4,
-                                                                .cod2 = 1,
-                                                                .descr = {},
-                                                                .unico = v.unico,
-                                                                .cal = static_cast<std::int16_t>(v.cal),
-                                                                .prot = v.prot,
-                                                                .lip = v.lip,
-                                                                .gluc = static_cast<float>(v.cal) / 3,
-                                                                .quant = 100,
-                                                                .fattore = 1,
-                                                                .quant_mod = {}};
+    voce_pasto& x = m.pasto_lavoro[static_cast<std::size_t>(m.conta_voci++)];
+    x = voce(4, {}, v.cal, v.prot, v.lip, static_cast<float>(v.cal) / 3, 100);
+    x.unico = v.unico;
+    x.fattore = 1;
   }
 }
 
@@ -133,29 +125,21 @@ TEST(Bilancio, DeviationIsKeptForDinnerAndTakenOffThere) {
   EXPECT_EQ(m.scarti[0].kcal, 20);
   EXPECT_FLOAT_EQ(m.scarti[0].prot, -5);
   EXPECT_FLOAT_EQ(m.scarti[0].lip, 3);
-  struct Esempio {
-    const char* che;
-    float prot, compP, compL;
-    int esito;
+  const std::tuple<const char*, float, float, float, int> cene[]{
+      {"corrected target 90", 90, 10, 0, 1},
+      {"the ratio 100 / 80 is beyond 1.2: target stays 100", 100, 20, 0, 1},
+      {"... so 80 is too little, and a whole piece cannot grow", 80, 20, 0, 0},
+      {"a deficit raises the target to 120", 120, -20, 0, 1},
+      {"the fat test divides by the protein sum: 100 / 60 skips a fat correction", 100, 40, 5, 1},
   };
-  for (const Esempio& c :
-       {Esempio{"corrected target 90", 90, 10, 0, 1},
-        {"the ratio 100 / 80 is beyond 1.2: target stays 100", 100, 20, 0, 1},
-        {"... so 80 is too little, and a whole piece cannot grow", 80, 20, 0, 0},
-        {"a deficit raises the target to 120", 120, -20, 0, 1},
-        {"the fat test divides by the protein sum: 100 / 60 skips a fat correction", 100, 40, 5, 1}}) {
-    componi(m, {{400, c.prot, 100, true}});
-    EXPECT_EQ(bilancia_pasto(m, 100, 100, 400, 4, c.compP, c.compL, true), c.esito) << c.che;
+  for (const auto& [che, prot, compP, compL, esito] : cene) {
+    componi(m, {{400, prot, 100, true}});
+    EXPECT_EQ(bilancia_pasto(m, 100, 100, 400, 4, compP, compL, true), esito) << che;
   }
   EXPECT_EQ(m.conta_scarti, 1) << "a dinner leaves no deviation";
   componi(m, {{400, 100, 100, true}});
   for (const auto& [P, comp] : {std::pair<std::int16_t, float>{50, 50.F}, {0, 0.F}}) {
-    try {
-      static_cast<void>(bilancia_pasto(m, P, 100, 400, 4, comp, 0, true));
-      ADD_FAILURE() << P;
-    } catch (const Errore& e) {
-      EXPECT_EQ(e.numero, 11);
-    }
+    EXPECT_EQ(numero_errore([&] { (void)bilancia_pasto(m, P, 100, 400, 4, comp, 0, true); }), 11) << P;
   }
 }
 

@@ -3,6 +3,7 @@
 #include "base/file.h"
 #include "core/mdiorza.h"
 #include "diet/formelabora.h"
+#include "diet/voce.h"
 
 using namespace Qt::StringLiterals;
 
@@ -31,17 +32,6 @@ class ProvaElabora : public Ambiente {
     motore().menu(1, 1, 4, 0) = voce(11, u"Orata"_s, 150, 100, 50, 3, 150);
   }
 
-  static voce_pasto voce(int cod1, const QString& nome, int cal, float p, float l, float g, int quant) {
-    return {.cod1 = static_cast<std::int16_t>(cod1),
-            .cod2 = 1,
-            .descr = nome,
-            .cal = static_cast<std::int16_t>(cal),
-            .prot = p,
-            .lip = l,
-            .gluc = g,
-            .quant = static_cast<std::int16_t>(quant),
-            .quant_mod = {}};
-  }
   void giorno(int riga) {
     const QPoint dove = f->List1->visualItemRect(f->List1->item(riga)).center();
     QTest::mouseClick(f->List1->viewport(), Qt::LeftButton, {}, dove);

@@ -1,8 +1,7 @@
 // The draws of foods, followed number by number.
-#include "base/errori.h"
+#include "attrezzi.h"
 #include "diet/banco.h"
 #include "diet/selezione.h"
-#include "stampa.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,17 +25,8 @@ class Selezione : public Banco {
     return codici;
   }
   using Codici = std::vector<int>;
+  using Tirate = std::vector<std::pair<int, int>>;
 };
-
-template <class F>
-int numero_errore(F&& f) {
-  try {
-    f();
-  } catch (const Errore& e) {
-    return e.numero;
-  }
-  return 0;
-}
 
 }  // namespace
 
@@ -64,35 +54,21 @@ TEST_F(Selezione, AFoodComesAtItsStandardPortionInKilocalories) {
 TEST_F(Selezione, ALightMealTakesABaseFoodAndPerhapsItsCompanion) {
   base({{1, 1, 0, 1, 60, 3, 3, 5}, {1, 2, 0, 1, 40, 3, 1, 5}, {1, 3, 0, 3, 80, 3, 1, 15}, {1, 4, 0, 4, 30, 0, 0, 7}});
   cliente({{1, 1, 0, 1, 1}, {1, 2, 0, 1, 1}, {1, 3, 0, 3, 1, "ok", "4,9,"}, {1, 4, 0, 4, 1}, {1, 5, 0, 5, 1, "LV"}});
-  struct Esempio {
-    const char* che;
-    std::vector<std::pair<int, int>> estrazioni;
-    bool trovato;
-    Codici pasto;
-    int errore = 0;
+  const std::tuple<const char*, Tirate, Codici, int> casi[]{
+      {"second food of sub-group 1", {{1, 6}, {2, 2}}, {102}, 0},
+      {"bread with the first companion", {{3, 6}, {1, 1}, {1, 2}}, {103, 104}, 0},
+      {"companions of a breakfast are no base food; 5 is not accepted", {{4, 6}, {5, 6}, {1, 6}, {1, 2}}, {101}, 0},
+      {"a companion that is not offered: the base food stays, the draw fails", {{3, 6}, {1, 1}, {2, 2}}, {103}, 3021},
   };
-  for (const Esempio& c : {
-           Esempio{"second food of sub-group 1", {{1, 6}, {2, 2}}, true, {102}},
-           {"bread with the first companion", {{3, 6}, {1, 1}, {1, 2}}, true, {103, 104}},
-           {"companions of a breakfast are no base food; 5 is not accepted",
-            {{4, 6}, {5, 6}, {1, 6}, {1, 2}},
-            true,
-            {101}},
-           {"a companion that is not offered: the base food stays, the draw fails",
-            {{3, 6}, {1, 1}, {2, 2}},
-            false,
-            {103},
-            3021},
-       }) {
+  for (const auto& [che, tirate, codici, errore] : casi) {
     m.svuota_pasto();
-    Estrazioni e;
-    for (const auto& [quale, n] : c.estrazioni) e.prossima(quale, n);
+    Estrazioni e(tirate);
     Contesto k = contesto(e.caso);
     bool trovato = false;
-    EXPECT_EQ(numero_errore([&] { trovato = scegli_pasto_leggero(k, 0, 1); }), c.errore) << c.che;
-    EXPECT_EQ(trovato, c.trovato) << c.che;
-    EXPECT_EQ(pasto(), c.pasto) << c.che;
-    EXPECT_TRUE(e.attese.empty()) << c.che;
+    EXPECT_EQ(numero_errore([&] { trovato = scegli_pasto_leggero(k, 0, 1); }), errore) << che;
+    EXPECT_EQ(trovato, errore == 0) << che;
+    EXPECT_EQ(pasto(), codici) << che;
+    EXPECT_TRUE(e.attese.empty()) << che;
   }
 }
 
@@ -112,86 +88,68 @@ TEST_F(Selezione, AHitOnTheEleventhDrawOfASubgroupIsLost) {
 }
 
 TEST_F(Selezione, CompanionLists) {
-  struct Esempio {
-    QString lista;
-    int conta, quale, valore;
-  };
-  for (const Esempio& c : {Esempio{u"7,12,3,"_s, 3, 2, 12}, {u"7,12,3,"_s, 3, 3, 3}, {u"7,12"_s, 1, 1, 7}}) {
-    Estrazioni e;
-    e.prossima(c.quale, c.conta);
-    EXPECT_EQ(scegli_abbinamento(e.caso, c.lista), c.valore);
-    EXPECT_EQ(conta_abbinamenti(c.lista), c.conta);
+  const std::tuple<QString, int, int, int> casi[]{
+      {u"7,12,3,"_s, 3, 2, 12}, {u"7,12,3,"_s, 3, 3, 3}, {u"7,12"_s, 1, 1, 7}};
+  for (const auto& [lista, conta, quale, valore] : casi) {
+    Estrazioni e({{quale, conta}});
+    EXPECT_EQ(scegli_abbinamento(e.caso, lista), valore);
+    EXPECT_EQ(conta_abbinamenti(lista), conta);
   }
   Estrazioni e;
   for (const QString& lista : {u""_s, u"12"_s}) EXPECT_EQ(scegli_abbinamento(e.caso, lista), 0) << "no comma, no draw";
 }
 
 TEST_F(Selezione, AGroupGivesABaseFoodAndOneCompanion) {
-  const std::vector<Cibo> cibi{{4, 1, 2, 1, 100, 1, 1, 1}, {4, 2, 2, 1, 100, 1, 1, 1}, {4, 3, 0, 2, 100, 1, 1, 1},
-                               {4, 4, 0, 2, 100, 1, 1, 1}, {4, 5, 0, 3, 100, 1, 1, 1}, {4, 6, 0, 3, 100, 1, 1, 1}};
+  std::vector<Cibo> cibi;
+  std::vector<Offerta> offerte;
+  for (const auto& [cod2, cod3, cod4] : {std::tuple{1, 2, 1}, {2, 2, 1}, {3, 0, 2}, {4, 0, 2}, {5, 0, 3}, {6, 0, 3}}) {
+    cibi.push_back({4, cod2, cod3, cod4, 100, 1, 1, 1});
+    offerte.push_back({4, cod2, cod3, cod4, 4});
+  }
   base(cibi);
-  struct Esempio {
-    const char* che;
-    const char* abbinamenti;  // of the base food drawn, 4.2
-    std::vector<std::pair<int, int>> estrazioni;
-    Codici pasto;
-    int errore = 0;
+  // Each with the companions of the base food drawn, 4.2.
+  const std::tuple<const char*, const char*, Tirate, Codici, int> casi[]{
+      {"the second companion is drawn, but its rows are gone", "3,4,", {{2, 2}, {2, 2}, {1, 2}}, {402, 404}, 3420},
+      {"a list of one reaches the first companion alone", "4,", {{2, 2}, {1, 1}, {1, 2}}, {402, 403}, 3420},
+      {"no list: a third kind, counted without the second's rows", "", {{2, 2}, {2, 2}}, {402, 404}, 0},
   };
-  for (const Esempio& c : {
-           Esempio{"the second companion is drawn, but its rows are gone",
-                   "3,4,",
-                   {{2, 2}, {2, 2}, {1, 2}},
-                   {402, 404},
-                   3420},
-           {"a list of one reaches the first companion alone", "4,", {{2, 2}, {1, 1}, {1, 2}}, {402, 403}, 3420},
-           {"no list: a third kind, counted without the second's rows", "", {{2, 2}, {2, 2}}, {402, 404}},
-       }) {
+  for (const auto& [che, abbinamenti, tirate, codici, errore] : casi) {
     m.svuota_pasto();
-    cliente({{4, 1, 2, 1, 4},
-             {4, 2, 2, 1, 4, "ok", c.abbinamenti},
-             {4, 3, 0, 2, 4},
-             {4, 4, 0, 2, 4},
-             {4, 5, 0, 3, 4},
-             {4, 6, 0, 3, 4}});
-    Estrazioni e;
-    for (const auto& [quale, n] : c.estrazioni) e.prossima(quale, n);
+    offerte[1].abbinamenti = abbinamenti;
+    cliente(offerte);
+    Estrazioni e(tirate);
     Contesto k = contesto(e.caso);
-    EXPECT_EQ(numero_errore([&] { carica_gruppo(k, 4, 2, 0, false); }), c.errore) << c.che;
-    EXPECT_EQ(pasto(), c.pasto) << c.che;
-    EXPECT_TRUE(e.attese.empty()) << c.che;
+    EXPECT_EQ(numero_errore([&] { carica_gruppo(k, 4, 2, 0, false); }), errore) << che;
+    EXPECT_EQ(pasto(), codici) << che;
+    EXPECT_TRUE(e.attese.empty()) << che;
   }
 }
 
 TEST_F(Selezione, WhichFoodsFillACourse) {
   base({{8, 1, 4, 1, 100, 1, 1, 1}});
   cliente({{8, 1, 4, 1, 4}, {11, 1, 4, 1, 4, "LV"}, {13, 1, 4, 1, 4, "ok SD"}, {8, 1, 4, 1, 6}, {18, 1, 4, 1, 6}});
-  struct Esempio {
-    const char* che;
-    int m, d;
-    bool fisso, veloce;
-    QString tipo_errore;
-    std::vector<int> gruppi;  // every possible answer
+  // Meal, day, obligatory foods, fast-food client, cause of the errors, every possible answer.
+  const std::tuple<const char*, int, int, bool, bool, QString, std::vector<int>> casi[]{
+      {"free foods of a weekday lunch", 2, 0, false, false, {}, {8, 13}},
+      {"obligatory Monday to Friday", 2, 4, true, false, {}, {11}},
+      {"obligatory Saturday and Sunday", 2, 5, true, false, {}, {13}},
+      {"dinner has its own list", 4, 0, false, false, {}, {8, 18}},
+      {"weekend lunch of a fast-food client: the dinner's list", 2, 6, false, true, {}, {8, 18}},
+      {"weekday lunch of a fast-food client: the lunch's", 2, 4, false, true, {}, {8, 13}},
+      {"after protein errors no meat", 2, 0, false, false, u"P"_s, {13}},
+      {"after fat errors no vegetables", 2, 0, false, false, u"L"_s, {8}},
+      {"after calorie errors nothing is left here", 2, 0, false, false, u"K"_s, {0}},
+      {"an obligatory food ignores the errors", 2, 5, true, false, u"K"_s, {13}},
   };
-  for (const Esempio& c : {
-           Esempio{"free foods of a weekday lunch", 2, 0, false, false, {}, {8, 13}},
-           {"obligatory Monday to Friday", 2, 4, true, false, {}, {11}},
-           {"obligatory Saturday and Sunday", 2, 5, true, false, {}, {13}},
-           {"dinner has its own list", 4, 0, false, false, {}, {8, 18}},
-           {"weekend lunch of a fast-food client: the dinner's list", 2, 6, false, true, {}, {8, 18}},
-           {"weekday lunch of a fast-food client: the lunch's", 2, 4, false, true, {}, {8, 13}},
-           {"after protein errors no meat", 2, 0, false, false, u"P"_s, {13}},
-           {"after fat errors no vegetables", 2, 0, false, false, u"L"_s, {8}},
-           {"after calorie errors nothing is left here", 2, 0, false, false, u"K"_s, {0}},
-           {"an obligatory food ignores the errors", 2, 5, true, false, u"K"_s, {13}},
-       }) {
-    m.pranzo_ff = c.veloce;
-    m.tipo_errore = c.tipo_errore;
-    const int n = static_cast<int>(c.gruppi.size());
-    for (int i = 1; i <= n; ++i) {
+  for (const auto& [che, pasto, giorno, fisso, veloce, errore, gruppi] : casi) {
+    m.pranzo_ff = veloce;
+    m.tipo_errore = errore;
+    const int n = static_cast<int>(gruppi.size());
+    for (int i = 1; i <= 2 * n; ++i) {  // two draws for each answer
       Estrazioni e;
-      if (c.gruppi.front() != 0) e.prossima(i, n);
+      if (gruppi.front() != 0) e.prossima(i, 2 * n);
       Contesto k = contesto(e.caso);
-      EXPECT_EQ(scegli_gruppo(k, 4, c.m, c.d, c.fisso), c.gruppi[static_cast<std::size_t>(i - 1)]) << c.che;
+      EXPECT_EQ(scegli_gruppo(k, 4, pasto, giorno, fisso), gruppi[static_cast<std::size_t>((i - 1) / 2)]) << che;
     }
   }
 }
@@ -203,7 +161,7 @@ TEST_F(Selezione, AFoodServesTwoLunchesAndDinnersRepeatFreely) {
   Contesto c = contesto(e.caso);
   Archivio dati(percorso(u"dati.tmp"_s));
   for (int volta = 0; volta < 2; ++volta) {
-    for (const int pasto : {2, 4}) c.spuntati.conta_uso_alimenti(dati, {{8, 1}, {9, 1}}, pasto);
+    for (const int pasto : {2, 4}) c.spuntati.conta_uso_alimenti({{8, 1}, {9, 1}}, pasto);
   }
   const auto libero = [&](int meal, int d, bool veloce) {
     m.pranzo_ff = veloce;
@@ -215,6 +173,7 @@ TEST_F(Selezione, AFoodServesTwoLunchesAndDinnersRepeatFreely) {
   EXPECT_EQ(libero(2, 0, false), 9) << "twice at lunch is enough; obligatory foods are not counted";
   EXPECT_EQ(libero(4, 0, false), 8) << "dinner reads a counter that dinners do not write";
   EXPECT_EQ(libero(2, 5, true), 0) << "the fast-food client's weekend lunch is held by the dinners' count";
+  c.spuntati.scrivi_usi(dati);
   const auto scritti = dati.righe(u"SELECT n_volte_pranzo p, n_volte_cena c FROM alimenti_spuntati ORDER BY rowid"_s);
   EXPECT_EQ(scritti[0][u"p"].toInt() * 10 + scritti[0][u"c"].toInt(), 20);
   EXPECT_EQ(scritti[1][u"p"].toInt() * 10 + scritti[1][u"c"].toInt(), 2);

@@ -136,21 +136,21 @@ TEST(Archivi, EveryCheckBoxOfTheFoodChoiceTicksFoods) {
 }
 
 TEST(Archivi, FoodStoresHoldTheirTables) {
-  struct Caso {
-    const char16_t *archivio, *tabella, *porzione;
+  const std::tuple<QString, QString, QString> casi[]{
+      {u"sa_dieta_minus.jed"_s, u"alimenti.csv"_s, u"quantita_minus"_s},
+      {u"sa_dieta.jed"_s, u"alimenti.csv"_s, u"quantita"_s},
+      {u"sa_dieta_plus.jed"_s, u"alimenti.csv"_s, u"quantita_plus"_s},
+      {u"sa_diario.jed"_s, u"diario.csv"_s, u"quantita"_s},
   };
-  for (const Caso& k : {Caso{u"sa_dieta_minus.jed", u"alimenti.csv", u"quantita_minus"},
-                        Caso{u"sa_dieta.jed", u"alimenti.csv", u"quantita"},
-                        Caso{u"sa_dieta_plus.jed", u"alimenti.csv", u"quantita_plus"},
-                        Caso{u"sa_diario.jed", u"diario.csv", u"quantita"}}) {
-    const TabellaCsv t = tabella(QString::fromUtf16(k.tabella));
+  for (const auto& [archivio, csv, porzione] : casi) {
+    const TabellaCsv t = tabella(csv);
     const bool abbinati = t.colonne.contains(u"abb2"_s);
-    const auto righe = posato(QString::fromUtf16(k.archivio)).righe(u"SELECT * FROM alimenti ORDER BY cod1,cod2"_s);
+    const auto righe = posato(archivio).righe(u"SELECT * FROM alimenti ORDER BY cod1,cod2"_s);
     ASSERT_EQ(righe.size(), t.righe.size());
     for (std::size_t i = 0; i < righe.size(); ++i) {
       const Cibo c{t, t.righe[i]};
       EXPECT_EQ(righe[i][u"Descrizione"].toString(), c.testo(u"Descrizione"_s));
-      EXPECT_EQ(righe[i][u"quantità"].toInt(), c.intero(QString::fromUtf16(k.porzione)));
+      EXPECT_EQ(righe[i][u"quantità"].toInt(), c.intero(porzione));
       EXPECT_EQ(righe[i][u"lipidi"].toDouble(), c.numero(u"lipidi"_s));
       EXPECT_EQ(righe[i][u"cena"].toBool(), c.flag().endsWith(u'1'));
       if (abbinati) {
