@@ -6,6 +6,7 @@
 
 int main(int argc, char** argv) {
   Applicazione app(argc, argv);
+  QGuiApplication::setDesktopFileName(QStringLiteral("orzaline"));
   imposta_lingua();
   imposta_aspetto(app);
   QTimer::singleShot(0, &app, [] { esegui_regola(mostra<frmLogin>); });
