@@ -1,7 +1,6 @@
 // Makes the placeable metafiles that lie beside the program from the drawings of a folder:
 //   costruttore_wmf <folder of .svg> <folder of the program>
 // It knows the few shapes that the drawings use and refuses everything else, so that no stroke gets lost unseen.
-#include <QDataStream>
 #include <QDir>
 #include <QHash>
 #include <QPointF>
@@ -29,9 +28,7 @@ struct Stile {
 
 QByteArray in_byte(const Parole& parole) {
   QByteArray b;
-  QDataStream flusso(&b, QIODevice::WriteOnly);
-  flusso.setByteOrder(QDataStream::LittleEndian);
-  for (const qint64 p : parole) flusso << static_cast<quint16>(p & 0xFFFF);
+  for (const qint64 p : parole) b.append(static_cast<char>(p & 0xFF)).append(static_cast<char>(p >> 8 & 0xFF));
   return b;
 }
 
@@ -53,14 +50,17 @@ class Metafile {
   void usa(const Stile& s) {
     scegli(0x02FA, s.tratto < 0 ? Parole{5, 0, 0, 0, 0} : Parole{0, twip(s.spessore), 0, s.tratto, s.tratto >> 16});
     scegli(0x02FC, s.fondo < 0 ? Parole{1, 0, 0, 0} : Parole{0, s.fondo, s.fondo >> 16, 0});
+    pieno = s.fondo >= 0;
   }
   void linea(const Punti& punti, bool chiusa) {
+    if (punti.size() < 2) return;
+    if (pieno && !chiusa) rifiuta(u"an open line cannot be filled"_s);
     Parole parole{punti.size()};
     for (const QPointF& p : punti) parole << twip(p.x()) << twip(p.y());
     record(chiusa ? 0x0324 : 0x0325, parole);  // Polygon, Polyline
   }
-  void ellisse(double x, double y, double rx, double ry) { riquadro(0x0418, x - rx, y - ry, x + rx, y + ry); }
   void rettangolo(double x, double y, double l, double a) { riquadro(0x041B, x, y, x + l, y + a); }
+  void ellisse(double x, double y, double rx, double ry) { riquadro(0x0418, x - rx, y - ry, x + rx, y + ry); }
 
   QByteArray chiudi() {
     record(0x0127, {-1});  // RestoreDC: an object in use must not be deleted
@@ -94,6 +94,7 @@ class Metafile {
   }
 
   qint64 largo, alto, maggiore = 0;
+  bool pieno = false;
   QByteArray ordini;
   QHash<Parole, qint64> oggetti;
 };
@@ -134,24 +135,18 @@ void curva(Punti& linea, const Punti& c) {
   }
 }
 
-void traccia(Metafile& m, const Stile& s, const Punti& linea, bool chiusa) {
-  if (linea.size() < 2) return;
-  if (!chiusa && s.fondo >= 0) rifiuta(u"an open line cannot be filled"_s);
-  m.linea(linea, chiusa);
-}
-
-void percorso(Metafile& m, const Stile& s, const QString& d) {
+void percorso(Metafile& m, const QString& d) {
   static const QRegularExpression passi(u"([A-Za-z])([^A-Za-z]*)"_s);
   Punti linea;
   for (const auto& passo : passi.globalMatch(d)) {
     const QString ordine = passo.captured(1);
     const Punti punti = ordine == u"Z" ? Punti() : coppie(passo.captured(2));
     if (ordine == u"M") {
-      traccia(m, s, std::exchange(linea, punti), false);
+      m.linea(std::exchange(linea, punti), false);
     } else if (linea.isEmpty()) {
       rifiuta(u"a path begins with M"_s);
     } else if (ordine == u"Z") {
-      traccia(m, s, std::exchange(linea, {}), true);
+      m.linea(std::exchange(linea, {}), true);
     } else if (ordine == u"L") {
       linea += punti;
     } else if (ordine == u"C" && punti.size() % 3 == 0) {
@@ -160,47 +155,37 @@ void percorso(Metafile& m, const Stile& s, const QString& d) {
       rifiuta(u"path order '%1'"_s.arg(passo.captured()));
     }
   }
-  traccia(m, s, linea, false);
+  m.linea(linea, false);
 }
 
-/// The attributes that give the shape of an element; null where the element is not known.
-const QStringList* misure_di(const QString& nome) {
-  static const QHash<QString, QStringList> forme{
-      {u"g"_s, {}},
-      {u"rect"_s, {u"x"_s, u"y"_s, u"width"_s, u"height"_s}},
-      {u"circle"_s, {u"cx"_s, u"cy"_s, u"r"_s}},
-      {u"ellipse"_s, {u"cx"_s, u"cy"_s, u"rx"_s, u"ry"_s}},
-      {u"line"_s, {u"x1"_s, u"y1"_s, u"x2"_s, u"y2"_s}},
-      {u"polyline"_s, {u"points"_s}},
-      {u"polygon"_s, {u"points"_s}},
-      {u"path"_s, {u"d"_s}},
-  };
-  const auto forma = forme.find(nome);
-  return forma == forme.end() ? nullptr : &forma.value();
+/// The attributes that give the shape of an element; none for what is not known.
+QStringList misure_di(const QString& nome) {
+  static const QHash<QString, QString> forme{{u"rect"_s, u"x y width height"_s},
+                                             {u"circle"_s, u"cx cy r"_s},
+                                             {u"ellipse"_s, u"cx cy rx ry"_s},
+                                             {u"line"_s, u"x1 y1 x2 y2"_s},
+                                             {u"polyline"_s, u"points"_s},
+                                             {u"polygon"_s, u"points"_s},
+                                             {u"path"_s, u"d"_s}};
+  return forme.value(nome).split(u' ', Qt::SkipEmptyParts);
 }
 
-void disegna(Metafile& m, const Stile& s, const QString& nome, const QStringList& misure) {
-  m.usa(s);
-  if (nome == u"path") return percorso(m, s, misure.front());
-  if (misure.size() == 1) return traccia(m, s, coppie(misure.front()), nome == u"polygon");
-  const QList<double> v = numeri(misure.join(u' '));
+void disegna(Metafile& m, const QString& nome, const QStringList& misure, const QXmlStreamAttributes& attributi) {
+  QString valori;
+  for (const QString& misura : misure) valori.append(attributi.value(misura)).append(u' ');
+  if (nome == u"path") return percorso(m, valori);
+  if (nome == u"line" || misure.size() == 1) return m.linea(coppie(valori), nome == u"polygon");
+  const QList<double> v = numeri(valori);
   if (v.size() != misure.size()) rifiuta(u"'%1' lacks a measure"_s.arg(nome));
-  if (nome == u"line")
-    m.linea({{v[0], v[1]}, {v[2], v[3]}}, false);
-  else if (nome == u"rect")
-    m.rettangolo(v[0], v[1], v[2], v[3]);
-  else
-    m.ellisse(v[0], v[1], v[2], v.last());
+  nome == u"rect" ? m.rettangolo(v[0], v[1], v[2], v[3]) : m.ellisse(v[0], v[1], v[2], v.last());
 }
 
 /// What an element draws with: what it inherits, changed by its own attributes.
 Stile stile_di(const QXmlStreamAttributes& attributi, const QStringList& misure, Stile s) {
   for (const QXmlStreamAttribute& a : attributi) {
     const QString chiave = a.name().toString(), valore = a.value().toString();
-    if (chiave == u"fill")
-      s.fondo = colore(valore);
-    else if (chiave == u"stroke")
-      s.tratto = colore(valore);
+    if (chiave == u"fill" || chiave == u"stroke")
+      (chiave == u"fill" ? s.fondo : s.tratto) = colore(valore);
     else if (chiave == u"stroke-width")
       s.spessore = numeri(valore).value(0);
     else if (!misure.contains(chiave) && (!chiave.startsWith(u"stroke-line") || valore != u"round"))
@@ -212,18 +197,17 @@ Stile stile_di(const QXmlStreamAttributes& attributi, const QStringList& misure,
 void leggi_contenuto(QXmlStreamReader& xml, Metafile& m, const Stile& ereditato) {
   while (xml.readNextStartElement()) {
     const QString nome = xml.name().toString();
-    const QStringList* misure = misure_di(nome);
-    if (!misure) rifiuta(u"element '%1'"_s.arg(nome));
+    const QStringList misure = misure_di(nome);
+    if (misure.isEmpty() && nome != u"g") rifiuta(u"element '%1'"_s.arg(nome));
     const QXmlStreamAttributes attributi = xml.attributes();
-    const Stile s = stile_di(attributi, *misure, ereditato);
-    if (misure->isEmpty()) {
+    const Stile s = stile_di(attributi, misure, ereditato);
+    if (misure.isEmpty()) {
       leggi_contenuto(xml, m, s);
-      continue;
+    } else {
+      m.usa(s);
+      disegna(m, nome, misure, attributi);
+      xml.skipCurrentElement();
     }
-    QStringList valori;
-    for (const QString& misura : *misure) valori << attributi.value(misura).toString();
-    disegna(m, s, nome, valori);
-    xml.skipCurrentElement();
   }
 }
 
@@ -247,11 +231,8 @@ QByteArray converti(const QString& file) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::fprintf(stderr, "uso: costruttore_wmf <cartella dei .svg> <cartella del programma>\n");
-    return 2;
-  }
   try {
+    if (argc != 3) rifiuta(u"uso: costruttore_wmf <cartella dei .svg> <cartella del programma>"_s);
     QDir().mkpath(QFile::decodeName(argv[2]));
     for (const QFileInfo& f : QDir(QFile::decodeName(argv[1])).entryInfoList({u"*.svg"_s}, QDir::Files)) {
       const QByteArray dati = converti(f.filePath());
