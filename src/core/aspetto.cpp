@@ -1,6 +1,7 @@
 #include "core/aspetto.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QFont>
 #include <QIcon>
@@ -95,6 +96,29 @@ QPushButton* pulsante(const QString& nome, const QString& scritta, const QString
   auto* b = nominato(new QPushButton(scritta), nome, suggerimento);
   if (!nome_icona.isEmpty()) b->setIcon(icona(nome_icona));
   return b;
+}
+
+QPushButton* pulsantino(const QString& nome, const QString& segno, const QString& suggerimento) {
+  QPushButton* b = pulsante(nome, segno, suggerimento);
+  b->setProperty("ruolo", u"piccolo"_s);
+  b->setFixedSize(21, 21);
+  b->setAccessibleName(suggerimento);
+  return b;
+}
+
+QComboBox* lista_fissa(QStringView voci) {
+  auto* l = new QComboBox;
+  if (!voci.isEmpty()) l->addItems(voci.toString().split(u'|'));
+  l->setCurrentIndex(-1);
+  l->setMaxVisibleItems(14);
+  l->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  l->setMinimumContentsLength(3);
+  return l;
+}
+
+void scrivi_da_capo(QLineEdit& campo, const QString& testo) {
+  campo.setText(testo);
+  campo.home(false);
 }
 
 QHBoxLayout* barra(const QList<QWidget*>& a_sinistra, const QList<QWidget*>& a_destra) {

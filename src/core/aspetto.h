@@ -10,6 +10,7 @@
 #include <QString>
 
 class QApplication;
+class QComboBox;
 
 inline constexpr int larghezza_schermo = 785;  // pixels of a stage screen
 inline constexpr int altezza_schermo = 480;
@@ -61,6 +62,15 @@ QLineEdit* campo_calcolato(const QString& nome, int larghezza = larghezza_numero
 
 QPushButton* pulsante(const QString& nome, const QString& scritta, const QString& suggerimento = {},
                       const QString& nome_icona = {});
+
+/// A square button of one sign beside a field or list; what it does stands in its hint.
+QPushButton* pulsantino(const QString& nome, const QString& segno, const QString& suggerimento);
+
+/// A list of fixed lines, parted by "|", with none chosen; its width is its place's, not its longest line's.
+QComboBox* lista_fissa(QStringView voci);
+
+/// Writes a text that may be longer than its field, and shows it from its beginning.
+void scrivi_da_capo(QLineEdit& campo, const QString& testo);
 
 /// A bar with some controls at its left end and others at its right end.
 QHBoxLayout* barra(const QList<QWidget*>& a_sinistra, const QList<QWidget*>& a_destra);

@@ -5,6 +5,7 @@
 #include "core/regole.h"
 #include "core/schermate.h"
 
+#include <QKeyEvent>
 #include <QVBoxLayout>
 #include <map>
 
@@ -45,7 +46,6 @@ Formnote::Formnote() {
   txtnote->setTabChangesFocus(true);
   txtnote->setAccessibleName(u"Nota"_s);
   cmdclosenote = pulsante(u"cmdclosenote"_s, u"Chiudi"_s, u"Riporta la nota nella scheda e chiudi la finestra"_s);
-  cmdclosenote->setShortcut(Qt::Key_Escape);  // the editor has no way to give up a text by a slip of a key
   auto* colonna = new QVBoxLayout(this);
   colonna->setContentsMargins(14, 12, 14, 10);
   colonna->setSpacing(6);
@@ -64,6 +64,12 @@ void Formnote::all_attivazione() {
   txtnote->setFocus();
   txtnote->moveCursor(QTextCursor::End);
   txtnote->insertPlainText(u" "_s);
+}
+
+/// Escape closes like the button: a slip of a key must not give up a text.
+void Formnote::keyPressEvent(QKeyEvent* evento) {
+  if (evento->key() == Qt::Key_Escape) return cmdclosenote->click();
+  QDialog::keyPressEvent(evento);
 }
 
 void Formnote::reject() { esegui_regola(scarica<Formnote>); }

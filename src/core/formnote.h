@@ -22,6 +22,9 @@ class Formnote : public QDialog {
   Valore labcart, labindice;                  // route back, element of the array there
   QPlainTextEdit* txtnote{};
   QPushButton* cmdclosenote{};
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
 };
 
 /// Tells where the notes of a route go: the element of the array and its new text. A screen calls this in its

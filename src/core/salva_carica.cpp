@@ -5,6 +5,7 @@
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
 #include "intake/formanag.h"
+#include "intake/formpers_sezione.h"
 
 #include <algorithm>
 
@@ -95,6 +96,7 @@ struct Operazioni {
 
 constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
+    {3, salva_personale, carica_personale},
 };
 
 void esegui_per(int codice, void (*Operazioni::*quale)()) {

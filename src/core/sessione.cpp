@@ -8,6 +8,7 @@
 #include "core/messaggi.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
+#include "intake/formpers.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,6 +43,7 @@ struct Chiusura {
 
 constexpr Chiusura chiusure[]{
     {scarica<Formanag>, true},
+    {scarica<Formpers>, true},
     {scarica<Formelabora>, true},
     {scarica<Formsched>, true},
 };

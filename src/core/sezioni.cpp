@@ -4,6 +4,7 @@
 #include "base/errori.h"
 #include "base/liste.h"
 #include "base/numeri.h"
+#include "core/aspetto.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -39,13 +40,13 @@ QString testo_di(const QWidget& schermo, const QString& nome) {
 }
 
 void scegli_testo(QComboBox& lista, const QString& testo) {
-  if (lista.isEditable()) return lista.setEditText(testo);
+  if (lista.isEditable()) return scrivi_da_capo(*lista.lineEdit(), testo);
   lista.setCurrentIndex(lista.findText(testo, Qt::MatchExactly));
 }
 
 void scrivi_testo(const QWidget& schermo, const QString& nome, const QString& testo) {
   QWidget* w = &controllo<QWidget>(schermo, nome);
-  if (auto* riga = qobject_cast<QLineEdit*>(w)) return riga->setText(testo);
+  if (auto* riga = qobject_cast<QLineEdit*>(w)) return scrivi_da_capo(*riga, testo);
   if (auto* lista = qobject_cast<QComboBox*>(w)) return scegli_testo(*lista, testo);
   if (auto* data = qobject_cast<QDateEdit*>(w)) return data->setDate(data_di(testo));
   if (auto* nota = qobject_cast<QPlainTextEdit*>(w)) return nota->setPlainText(testo);

@@ -5,6 +5,7 @@
 #include "core/sessione.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
+#include "intake/formpers.h"
 
 #include <QApplication>
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace {
 
 constexpr Stadio percorso_stadi[]{
     {0, 1, u"Scheda Anagrafica", true, mostra<Formanag>, scarica<Formanag>},
-    {3, 2, u"Dati personali", true, nullptr, nullptr},
+    {3, 2, u"Dati personali", true, mostra<Formpers>, scarica<Formpers>},
     {4, 8, u"Anamnesi patologica", true, nullptr, nullptr},
     {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
     {9, 7, u"Diario alimentare", true, nullptr, nullptr},

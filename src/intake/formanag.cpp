@@ -7,11 +7,13 @@
 #include "core/dialoghi.h"
 #include "core/filtri.h"
 #include "core/formcost.h"
+#include "core/formnote.h"
 #include "core/mdiorza.h"
 #include "core/regole.h"
 #include "core/salva_carica.h"
 #include "intake/codice_fiscale.h"
 #include "intake/formminori.h"
+#include "intake/formtipolavoro.h"
 
 #include <QImageReader>
 #include <QPixmap>
@@ -23,6 +25,7 @@ namespace {
 
 constexpr int codice_stadio = 0, eta_minima = 10, cifre_di_misura = 3;
 constexpr int nascita = 1, residenza = 2;  // which of the two places
+const QString rotta_note = u"0"_s;
 const QDate inizio_del_calendario(1899, 12, 30);
 
 /// The line chosen in a list, whatever stands typed in its box.
@@ -76,8 +79,10 @@ void Formanag::collega_regole() {
   });
   for (QLineEdit* misura : {Txtpeso, Txtalt}) solo_cifre(misura, cifre_di_misura);
   al_clic(cmdhelp[0], mostra<Formcost>);
+  al_clic(cmdhelp[1], mostra<Formtipolavoro>);
   al_clic(Commapri, [this] { scegli_foto(); });
   collega_luoghi();
+  collega_note();
 }
 
 void Formanag::collega_luoghi() {
@@ -90,6 +95,18 @@ void Formanag::collega_luoghi() {
   al_clic(comboprov2, [this] { cambia_provincia(residenza); });
   al_clic(Combocom, [this] { calcola_codfis(); });
   al_clic(Combocom2, [this] { trova_comune(scelto(Combocom2), 1); });
+}
+
+void Formanag::collega_note() {
+  for (std::size_t i = 0; i < Cmdnote.size(); ++i) {
+    al_clic(Cmdnote[i], [this, i] {
+      apri_note(windowTitle(), TxtVerde[i]->accessibleName(), rotta_note, QString::number(i),
+                TxtVerde[i]->toPlainText());
+    });
+  }
+  instrada_note(rotta_note, [](int i, const QString& testo) {
+    schermata<Formanag>().TxtVerde.at(static_cast<std::size_t>(i))->setPlainText(testo);
+  });
 }
 
 // ---- subject

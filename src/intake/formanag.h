@@ -69,6 +69,7 @@ class Formanag : public QWidget {
 
   void collega_regole();
   void collega_luoghi();
+  void collega_note();
   void segui_cognome();
   void cambia_cognome();
   void cambia_soggetto();

@@ -86,16 +86,6 @@ constexpr Posto diete[]{
      u"1|2|3|4|5|>5"},
 };
 
-QComboBox* lista(QStringView voci) {
-  auto* l = new QComboBox;
-  if (!voci.isEmpty()) l->addItems(voci.toString().split(u'|'));
-  l->setCurrentIndex(-1);
-  l->setMaxVisibleItems(14);
-  l->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  l->setMinimumContentsLength(3);
-  return l;
-}
-
 /// Makes the controls of a frame in reading order and puts each with its label in its place.
 void disponi(Formanag& f, QGridLayout& griglia, std::span<const Posto> posti) {
   for (const Posto& p : posti) {
@@ -103,7 +93,7 @@ void disponi(Formanag& f, QGridLayout& griglia, std::span<const Posto> posti) {
     if (const auto* campo = std::get_if<QLineEdit * Formanag::*>(&p.membro)) {
       controllo = f.*(*campo) = new QLineEdit;
     } else {
-      controllo = f.*std::get<QComboBox * Formanag::*>(p.membro) = lista(p.voci);
+      controllo = f.*std::get<QComboBox * Formanag::*>(p.membro) = lista_fissa(p.voci);
     }
     nominato(controllo, p.nome.toString(), p.suggerimento.toString());
     griglia.addWidget(etichetta_di(p.etichetta.toString(), controllo), p.riga, p.colonna);
@@ -123,15 +113,6 @@ void prepara_luoghi(QComboBox* province, QComboBox* comuni) {
   rendi_cercabile(comuni);
   comuni->view()->setMinimumWidth(300);  // the longest names in full
   comuni->view()->setTextElideMode(Qt::ElideNone);
-}
-
-QPushButton* pulsantino(const QString& nome, const QString& scritta, const QString& suggerimento, bool attivo) {
-  QPushButton* b = pulsante(nome, scritta, suggerimento);
-  b->setStyleSheet(u"padding: 0; min-height: 0;"_s);
-  b->setFixedSize(21, 21);
-  b->setAccessibleName(suggerimento);
-  b->setEnabled(attivo);
-  return b;
 }
 
 }  // namespace
@@ -209,8 +190,8 @@ QWidget* Formanag::disegna_recapiti() {
 QWidget* Formanag::disegna_lavoro() {
   const Cornice c = cornice(u"Lavoro e abitudini"_s);
   disponi(*this, *c.griglia, lavoro);
-  cmdhelp[0] = pulsantino(nome_indice(u"cmdhelp", 0), u"?"_s, u"Come si determina la costituzione"_s, true);
-  cmdhelp[1] = pulsantino(nome_indice(u"cmdhelp", 1), u"?"_s, u"Schema dei tipi di lavoro"_s, false);
+  cmdhelp[0] = pulsantino(nome_indice(u"cmdhelp", 0), u"?"_s, u"Come si determina la costituzione"_s);
+  cmdhelp[1] = pulsantino(nome_indice(u"cmdhelp", 1), u"?"_s, u"Schema dei tipi di lavoro"_s);
   c.griglia->addWidget(cmdhelp[0], 6, 4);
   c.griglia->addWidget(cmdhelp[1], 3, 4);
   c.griglia->setColumnMinimumWidth(1, 86);
@@ -227,7 +208,7 @@ QWidget* Formanag::disegna_diete() {
     TxtVerde[i] = nominato(new QPlainTextEdit, nome_indice(u"TxtVerde", i), suggerimenti[i]);
     TxtVerde[i]->setTabChangesFocus(true);
     TxtVerde[i]->setMinimumHeight(0);
-    Cmdnote[i] = pulsantino(nome_indice(u"Cmdnote", i), u"…"_s, scritte[i] + u" nel blocco note"_s, false);
+    Cmdnote[i] = pulsantino(nome_indice(u"Cmdnote", i), u"…"_s, scritte[i] + u" nel blocco note"_s);
     auto* testata = barra({etichetta_di(scritte[i], TxtVerde[i])}, {Cmdnote[i]});
     const int colonna = i == 0 ? 2 : 4, campata = i == 0 ? 2 : 1;
     c.griglia->addLayout(testata, 1, colonna, 1, campata);

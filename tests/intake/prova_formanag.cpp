@@ -1,9 +1,11 @@
 // Stage 0 as the practitioner fills it in: keys, banner, age, lists of places, fiscal code, photo.
 #include "ambiente.h"
 #include "core/formcost.h"
+#include "core/formnote.h"
 #include "core/sezioni.h"
 #include "intake/formanag.h"
 #include "intake/formminori.h"
+#include "intake/formtipolavoro.h"
 
 #include <QClipboard>
 #include <QImage>
@@ -268,11 +270,28 @@ TEST_F(ProvaAnagrafica, WhatWasFilledInComesBack) {
   EXPECT_EQ(f->Combocom2->currentText(), u"Bologna"_s);
 }
 
-TEST_F(ProvaAnagrafica, HelpOpensTheTableOfConstitutions) {
-  QTest::mouseClick(f->cmdhelp[0], Qt::LeftButton);
-  auto* aiuto = caricata<Formcost>();
-  ASSERT_NE(aiuto, nullptr);
-  EXPECT_TRUE(aiuto->isModal());
-  QTest::keyClick(aiuto, Qt::Key_Escape);
-  EXPECT_EQ(caricata<Formcost>(), nullptr);
+TEST_F(ProvaAnagrafica, HelpOpensTheTables) {
+  const auto apre = [&]<class S>(QPushButton* aiuto) {
+    QTest::mouseClick(aiuto, Qt::LeftButton);
+    auto* tabella = caricata<S>();
+    ASSERT_TRUE(tabella && tabella->isModal());
+    QTest::keyClick(tabella, Qt::Key_Escape);
+    EXPECT_EQ(caricata<S>(), nullptr);
+  };
+  apre.operator()<Formcost>(f->cmdhelp[0]);
+  apre.operator()<Formtipolavoro>(f->cmdhelp[1]);
+}
+
+TEST_F(ProvaAnagrafica, ANoteComesBackAndDisturbsNothing) {
+  scegli_voce(f->comboprov, u"MI"_s);
+  for (std::size_t i = 0; i < f->Cmdnote.size(); ++i) {
+    f->TxtVerde[i]->setPlainText(u"due\nrighe"_s);
+    QTest::mouseClick(f->Cmdnote[i], Qt::LeftButton);
+    auto& n = schermata<Formnote>();
+    EXPECT_EQ(n.labchi->text(), i == 0 ? u"Tipo e durata"_s : u"Aspettative attuali"_s);
+    QTest::keyClicks(n.txtnote, u"e mezza"_s);
+    QTest::mouseClick(n.cmdclosenote, Qt::LeftButton);
+    EXPECT_EQ(f->TxtVerde[i]->toPlainText(), u"due\nrighe e mezza"_s);
+  }
+  EXPECT_EQ(f->comboprov->currentText(), u"MI"_s) << "what is not yet saved stays";
 }
