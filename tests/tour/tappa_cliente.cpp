@@ -1,10 +1,12 @@
 #include "core/formi_e.h"
+#include "core/formnote.h"
 #include "core/formricerca.h"
 #include "core/formsched.h"
 #include "core/mdiorza.h"
 #include "core/registro.h"
 #include "core/sessione.h"
 #include "intake/formanag.h"
+#include "intake/formpers.h"
 #include "passi.h"
 #include "tappe.h"
 
@@ -42,6 +44,22 @@ void scrivi_anagrafe() {
   scrivi(f.TxtVerde[0], u"dissociata, due mesi"_s);
 }
 
+void scrivi_personali() {
+  auto& f = schermata<Formpers>();
+  scegli(f.Combo6[0], u"10"_s);
+  scegli(f.Combo6[4], u"1,5"_s);
+  scegli(f.Combo17[2], u"lenta"_s);
+  clic(f.Check1[0]);
+  scegli(f.Combo16[2], u"Diminuire di peso"_s);
+  scrivi(f.Txtmed, u"Giovanna Neri"_s);
+  scegli(f.Combo1[1], u"2"_s);
+  scegli(f.Combo1[2], u"2"_s);
+  clic(f.Command8[0]);
+  scrivi(schermata<Formnote>().txtnote, u"regolare, 28 giorni"_s);
+  quadro(schermata<Formnote>(), u"nota"_s);
+  clic(schermata<Formnote>().cmdclosenote);
+}
+
 void cerca(const QString& cognome) {
   clic(archivio().Command10[1]);
   auto& r = schermata<Formricerca>();
@@ -67,6 +85,8 @@ QMap<QString, QString> comincia_e_salva() {
   const auto scritto = contenuto(schermata<Formanag>());
   clic(m.Command1[1]);
   pretendi(!caricata<Formanag>(), "Avanti does not leave the master data");
+  scrivi_personali();
+  quadro(m, u"personali"_s);
   clic(m.Command1[0]);
   pretendi(contenuto(schermata<Formanag>()) == scritto, "a step along the path and back changed the master data");
   clic(m.Command2[1]);
