@@ -3,6 +3,7 @@
 #include "base/date.h"
 #include "base/errori.h"
 #include "base/file.h"
+#include "clinic/formtratta.h"
 #include "core/dialoghi.h"
 #include "core/file_cliente.h"
 #include "core/formsched.h"
@@ -10,8 +11,6 @@
 #include "core/messaggi.h"
 #include "core/registro.h"
 #include "core/sessione.h"
-#include "core/sezioni.h"
-#include "core/sezioni_cliente.h"
 #include "intake/formanag.h"
 
 #include <QDir>
@@ -37,19 +36,6 @@ void prendi(int cod) {
     verifica_cliente(cliente);
   }
   sostituisci_file(scelto->file, percorso(u"dati.tmp"_s));
-}
-
-/// The sheet of a client without visits but the first, as its own screen would leave it.
-void scrivi_primo_controllo(const QString& data) {
-  QVariantMap riga;
-  for (const Campo& c : sezione_trattamento()) {
-    const bool serie = c.come == Come::lista_testi;
-    riga[c.campo] = serie ? QString(c.controlli.size(), c.separatore) : QString();
-  }
-  riga[u"Date"_s] = data + riga[u"Date"_s].toString();
-  riga[u"cod_cli"_s] = schermata<Mdiorza>().Txtcod->text().trimmed();
-  apri_dati_tmp(Scopo::salvare);
-  salva_riga(dati_tmp(), u"trattamento"_s, riga);
 }
 
 /// Deletes a client's folder and the files in it; only a folder right beside the program is one.
@@ -88,11 +74,13 @@ void nuovo_cliente() {
   mostra<Formanag>();
 }
 
+/// The follow-up screen, loaded unseen and closed again, leaves the sheet of a client with one date and no visit.
 void prepara_nuovo_cliente() {
   Formanag& f = schermata<Formanag>();
   prosegui([&] { f.txtdatavisita->setDate(oggi()); });
+  prosegui([] { schermata<Formtratta>().Text24[0]->setText(data_breve(oggi())); });
   prosegui([&] { f.Txtcod->setText(QString::number(prossimo_cod())); });
-  prosegui([] { scrivi_primo_controllo(data_breve(oggi())); });
+  prosegui(scarica<Formtratta>);
 }
 
 void elimina_cliente() {

@@ -1,5 +1,8 @@
 #include "core/filtri.h"
 
+#include "base/date.h"
+#include "core/regole.h"
+
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -75,5 +78,11 @@ void filtro_nome(QLineEdit* campo) {
     const QChar c = battuto.toUpper();
     const bool resta = c == copia || (c >= u'A' && c <= u'Z') || (c >= u'1' && c <= u'9') || c == u' ';
     return resta ? c : QChar();
+  });
+}
+
+void data_breve_in_uscita(QLineEdit* campo) {
+  all_uscita(campo, [campo] {
+    if (const QDate giorno = data_di(campo->text()); giorno.isValid()) campo->setText(data_breve(giorno));
   });
 }

@@ -17,3 +17,6 @@ void filtro_data(QLineEdit* campo);
 
 /// Capitals without accents, the digits 1 to 9, blanks, the backspace and the copy key.
 void filtro_nome(QLineEdit* campo);
+
+/// Leaving the field rewrites a date in its short form; any other text stays.
+void data_breve_in_uscita(QLineEdit* campo);

@@ -1,6 +1,8 @@
 #include "core/salva_carica.h"
 
 #include "base/errori.h"
+#include "clinic/formfunzio_sezione.h"
+#include "clinic/formtratta_sezione.h"
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
@@ -97,6 +99,8 @@ struct Operazioni {
 constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
     {3, salva_personale, carica_personale},
+    {4, salva_funzionale, carica_funzionale},
+    {10, salva_trattamento, carica_trattamento},
 };
 
 void esegui_per(int codice, void (*Operazioni::*quale)()) {

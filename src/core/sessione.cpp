@@ -2,6 +2,8 @@
 
 #include "base/errori.h"
 #include "base/file.h"
+#include "clinic/formfunzio.h"
+#include "clinic/formtratta.h"
 #include "core/file_cliente.h"
 #include "core/formsched.h"
 #include "core/mdiorza.h"
@@ -41,12 +43,16 @@ struct Chiusura {
   bool da_menu;
 };
 
+// clang-format off
 constexpr Chiusura chiusure[]{
     {scarica<Formanag>, true},
     {scarica<Formpers>, true},
+    {scarica<Formfunzio>, false},
     {scarica<Formelabora>, true},
+    {scarica<Formtratta>, true},
     {scarica<Formsched>, true},
 };
+// clang-format on
 
 /// A working copy that a crash left damaged must never go over a client's good file.
 void pretendi_sana() {

@@ -1,6 +1,8 @@
 #include "core/stadi.h"
 
 #include "base/numeri.h"
+#include "clinic/formfunzio.h"
+#include "clinic/formtratta.h"
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "diet/formelabora.h"
@@ -15,13 +17,13 @@ namespace {
 constexpr Stadio percorso_stadi[]{
     {0, 1, u"Scheda Anagrafica", true, mostra<Formanag>, scarica<Formanag>},
     {3, 2, u"Dati personali", true, mostra<Formpers>, scarica<Formpers>},
-    {4, 8, u"Anamnesi patologica", true, nullptr, nullptr},
+    {4, 8, u"Anamnesi patologica", true, mostra<Formfunzio>, scarica<Formfunzio>},
     {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
     {9, 7, u"Diario alimentare", true, nullptr, nullptr},
     {1, 15, u"Attività fisica", false, nullptr, nullptr},
     {7, 4, u"Selezione alimenti", true, nullptr, nullptr},
     {8, 5, u"Elaborazione", true, mostra<Formelabora>, scarica<Formelabora>},
-    {10, 6, u"Controlli", true, nullptr, nullptr},
+    {10, 6, u"Controlli", true, mostra<Formtratta>, scarica<Formtratta>},
 };
 
 void abilita(bool si) {

@@ -1,6 +1,8 @@
 // Sections: what reaches the store from the controls, and what comes back to them.
 #include "core/sezioni.h"
 
+#include "clinic/formfunzio.h"
+#include "clinic/formtratta.h"
 #include "core/mdiorza.h"
 #include "core/salva_carica.h"
 #include "core/sezioni_cliente.h"
@@ -167,6 +169,21 @@ TEST_F(ProvaSezioni, EachSectionCoversItsTable) {
   EXPECT_EQ(esami(esami_letti()), colonne(u"esami"_s));
   EXPECT_EQ(sezioni_farmaci()[8][2].controlli, QStringList{u"Text19_28"_s});
   EXPECT_EQ(sezioni_pressione()[3][3].controlli, QStringList{u"Text11_15"_s});
+}
+
+TEST_F(ProvaSezioni, EachScreenHasTheControlsOfItsTables) {
+  std::vector<Sezione> cliniche{sezione_anamnesi()};
+  for (const auto& righe : {sezioni_farmaci(), sezioni_pressione()}) {
+    cliniche.insert(cliniche.end(), righe.begin(), righe.end());
+  }
+  const std::pair<const QWidget*, std::vector<Sezione>> casi[]{
+      {&schermata<Formanag>(), {sezione_anagrafe()}},
+      {&schermata<Formfunzio>(), cliniche},
+      {&schermata<Formtratta>(), {sezione_trattamento()}},
+  };
+  for (const auto& [schermo, sezioni] : casi) {
+    for (const Sezione& una : sezioni) EXPECT_EQ(numero_errore([&] { (void)leggi_controlli(*schermo, una); }), 0);
+  }
 }
 
 TEST_F(ProvaSezioni, MasterDataComeBackAsTheyWereTyped) {

@@ -1,0 +1,168 @@
+// Stage 10: the sheet of visits, where its first column comes from, and the chart of a measure.
+#include "clinic/formtratta.h"
+
+#include "clinic/formgraficotratta.h"
+#include "core/formnote.h"
+#include "core/mdiorza.h"
+#include "core/sezioni.h"
+
+#include "ambiente.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QLineSeries>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ProvaTrattamento : Ambiente {
+  Mdiorza& m = schermata<Mdiorza>();
+  Formtratta* f{};
+
+  ProvaTrattamento() {
+    mostra<Mdiorza>();
+    m.Txtcod->setText(u" 12 "_s);
+    apri();
+  }
+  void apri() {
+    scarica<Formtratta>();
+    mostra<Formtratta>();
+    f = caricata<Formtratta>();
+  }
+  static QVariantMap riga() { return carica_riga(dati_tmp(), u"trattamento"_s); }
+  static void scrivi_serie(const Formtratta::Serie& serie, const QStringList& testi) {
+    for (std::size_t i = 0; i < serie.size(); ++i) serie[i]->setText(testi.value(static_cast<int>(i)));
+  }
+  static QStringList testi(const Formtratta::Serie& serie) {
+    QStringList t;
+    for (const QLineEdit* c : serie) t << c->text();
+    return t;
+  }
+  [[nodiscard]] static QAbstractSeries* serie_del_grafico() {
+    return schermata<Formgraficotratta>().MSChart1->chart()->series().front();
+  }
+  static QList<qreal> valori_del_grafico() {
+    QList<qreal> valori;
+    if (auto* linea = qobject_cast<QLineSeries*>(serie_del_grafico())) {
+      for (const QPointF& p : linea->points()) valori << p.y();
+    } else if (auto* barre = qobject_cast<QBarSeries*>(serie_del_grafico())) {
+      for (int i = 0; i < barre->barSets().front()->count(); ++i) valori << barre->barSets().front()->at(i);
+    }
+    return valori;
+  }
+  static QStringList etichette_del_grafico() {
+    auto* asse = qobject_cast<QBarCategoryAxis*>(serie_del_grafico()->attachedAxes().front());
+    QStringList e = asse->categories();
+    return e.replaceInStrings(QString(QChar(0x200b)), QString());
+  }
+};
+
+}  // namespace
+
+TEST_F(ProvaTrattamento, TheSheetComesBackAsItWasTyped) {
+  scrivi_serie(f->Text24, {u"01/02/2026"_s, u"1-3-26"_s, {}, {}, {}, {}, u"l'ultima"_s});
+  for (std::size_t k = 0; k < misure.size(); ++k) {
+    scrivi_serie(f->*misure[k].serie, {QString::number(40 + k), {}, u"71,5"_s});
+  }
+  QTest::keyClicks(f->Text25[5], u"8a3,5"_s);
+  f->Text22[6]->setText(u" stanca "_s);
+  f->txtCirco[0]->setText(u"Mediana braccio"_s);
+  apri();
+  const QVariantMap r = riga();
+  EXPECT_EQ(r[u"cod_cli"_s], u"12"_s);
+  EXPECT_EQ(r[u"Date"_s], u"01/02/2026+1-3-26+++++l'ultima+"_s);
+  EXPECT_EQ(r[u"braccia"_s], u"41++71,5+++835++"_s) << "only digits were typed";
+  EXPECT_EQ(r[u"peso"_s], u"40++71,5+++++"_s);
+  EXPECT_EQ(r[u"acqua"_s], u"52++71,5+++++"_s);
+  EXPECT_EQ(r[u"notebic"_s], u"stanca"_s);
+  EXPECT_EQ(testi(f->Text29), (QStringList{u"45"_s, {}, u"71,5"_s, {}, {}, {}, {}}));
+  EXPECT_EQ(f->Text24[6]->text(), u"l'ultima"_s);
+  EXPECT_EQ(f->txtCirco[0]->text(), u"Mediana braccio"_s);
+}
+
+TEST_F(ProvaTrattamento, TheFirstVisitComesFromTheOtherSections) {
+  salva_riga(dati_tmp(), u"anagrafe"_s, {{u"data_visita"_s, u"09/11/2026"_s}, {u"peso"_s, 72.1F}});
+  salva_riga(dati_tmp(), u"Anamnesi"_s, {{u"vita"_s, 80.0}, {u"addomecm"_s, 91.5}});
+  salva_riga(dati_tmp(), u"dietologica"_s, {{u"pliche"_s, u"12+8++15+20+"_s}});
+  dati_tmp().esegui(u"DELETE FROM trattamento"_s);
+  mostra<Formtratta>();
+  scarica<Formtratta>();
+  dati_tmp().esegui(u"DELETE FROM trattamento"_s);
+  f = &schermata<Formtratta>();
+  EXPECT_EQ(f->Text24[0]->text() + f->Text37[0]->text() + f->Text25[0]->text(), u""_s) << "no sheet, no seeds";
+  f->Text26[0]->setText(u"99"_s);
+  apri();
+  const auto prime = [&] {
+    QStringList t;
+    for (const auto& s :
+         {f->Text24, f->Text37, f->Text25, f->Text26, f->Text27, f->Text30, f->Text31, f->Text32, f->Text33}) {
+      t << s[0]->text();
+    }
+    return t.join(u'|');
+  };
+  EXPECT_EQ(prime(), u"09/11/2026|72,1|80|99|91,5|12|8||15"_s) << "a measure that is nowhere stored stays";
+  f->Text25[0]->setText(u"79"_s);
+  f->Text27[0]->setText(u"90"_s);
+  f->Text37[0]->setText(u"50"_s);
+  apri();
+  EXPECT_EQ(prime(), u"09/11/2026|72,1|79|99|90|12|8||15"_s) << "a waist typed in holds the measures, not the weight";
+}
+
+TEST_F(ProvaTrattamento, AChartAsksForMeasureAndKindInTurn) {
+  Dialogo d({{u"Scegliere il tipo di rilevamento !"_s, u"Orzaline control"_s, true, Icona::esclamazione}});
+  f->Option4[0]->click();
+  f->Command10->click();
+  d.attendi({u"Scegliere il tipo di grafico !"_s, u"Orzaline control"_s});
+  apri();
+  f->Option3[4]->click();
+  f->Command10->click();
+  EXPECT_EQ(caricata<Formgraficotratta>(), nullptr);
+}
+
+TEST_F(ProvaTrattamento, AChartShowsTheSevenVisitsRounded) {
+  scrivi_serie(f->Text24, {u"01/02/2026"_s, u"01/02/2026"_s});
+  scrivi_serie(f->Text37, {u"72,5"_s, u"73,5 kg"_s, u"ca. 70"_s, u"-3"_s, {}, u" 68"_s, u"1.066"_s});
+  f->txtCirco[1]->setText(u"<b>Mediana</b>"_s);
+  f->Option3[0]->click();
+  f->Option4[0]->click();
+  f->Command10->click();
+  auto* g = caricata<Formgraficotratta>();
+  ASSERT_NE(g, nullptr);
+  EXPECT_TRUE(g->isModal() && qobject_cast<QLineSeries*>(serie_del_grafico()));
+  EXPECT_EQ(g->windowTitle(), u"Grafico Trattamento - Peso Kg"_s);
+  EXPECT_EQ(valori_del_grafico(), (QList<qreal>{72, 74, 0, -3, 0, 68, 1066}));
+  EXPECT_EQ(etichette_del_grafico(), (QStringList{u"01/02/2026"_s, u"01/02/2026"_s, {}, {}, {}, {}, {}}));
+  EXPECT_EQ(f->Text37[1]->text(), u"73,5 kg"_s);
+  g->commchiudi->click();
+  f->Option3[5]->click();
+  f->Option4[1]->click();
+  f->Command10->click();
+  EXPECT_EQ(schermata<Formgraficotratta>().windowTitle(), u"Grafico Trattamento - <b>Mediana</b>"_s);
+  EXPECT_EQ(valori_del_grafico(), QList<qreal>(7, 0)) << "seven empty visits";
+  scarica<Formgraficotratta>();
+  f->Text29[0]->setText(u"40000"_s);
+  Fallimenti falliti;
+  f->Command10->click();
+  EXPECT_EQ(falliti.numeri, std::vector{6});
+  EXPECT_EQ(caricata<Formgraficotratta>(), nullptr);
+}
+
+TEST_F(ProvaTrattamento, TheStageEndsWhenAnotherScreenComesInFront) {
+  EXPECT_EQ(m.qualeform.text(), u"10"_s);
+  mostra<Formsched>();
+  EXPECT_EQ(m.qualeform.text(), u"-1"_s);
+  scarica<Formsched>();
+  EXPECT_EQ(m.qualeform.text(), u"10"_s);
+}
+
+TEST_F(ProvaTrattamento, AVisitsNoteGoesToTheEditorAndBack) {
+  f->Text24[2]->setText(u"01/03/2026"_s);
+  f->Command13[2]->click();
+  auto& nota = schermata<Formnote>();
+  EXPECT_EQ(nota.Labcat->text() + u'/' + nota.labchi->text(), u"Trattamento cliente/Visita del 01/03/2026"_s);
+  QTest::keyClicks(nota.txtnote, u"bene"_s);
+  nota.cmdclosenote->click();
+  EXPECT_EQ(f->Text22[2]->text(), u" bene"_s);
+}
