@@ -9,6 +9,7 @@
 #include "core/regole.h"
 #include "core/salva_carica.h"
 
+#include <QStyle>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -18,18 +19,12 @@ namespace {
 constexpr int codice_stadio = 4;
 const QString rotta_note = u"8"_s;
 
-/// The ink of a factor that is there, or of one that is not.
-void colora(QWidget* c, bool presente) {
-  QPalette colori = c->palette();
-  for (const auto ruolo : {QPalette::Text, QPalette::ButtonText}) {
-    colori.setColor(ruolo, presente ? QColor(255, 0, 0) : QColor(0, 0, 0));
-  }
-  c->setPalette(colori);
-}
-
+/// Writes a factor's mark, which also gives the factor its ink.
 void segna(QLabel* dove, const QString& segno, QWidget* fattore) {
   dove->setText(segno);
-  colora(fattore, segno == u"+");
+  fattore->setProperty("rischio", segno);
+  fattore->style()->unpolish(fattore);
+  fattore->style()->polish(fattore);
 }
 
 /// A locked list shows its line as before, and neither mouse nor keyboard changes it.
@@ -44,7 +39,9 @@ Formfunzio::Formfunzio() {
   disegna();
   collega_regole();
   instrada_note(rotta_note, [](int indice, const QString& testo) {
-    schermata<Formfunzio>().Text1.at(static_cast<std::size_t>(indice))->setText(testo);
+    QLineEdit* nota = schermata<Formfunzio>().Text1.at(static_cast<std::size_t>(indice));
+    nota->setText(testo);
+    nota->home(false);  // a long note shows its beginning
   });
 }
 

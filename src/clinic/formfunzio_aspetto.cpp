@@ -12,7 +12,8 @@ namespace {
 constexpr Colonna colonne_esami[]{{u"Data ", 1000, Qt::AlignLeft},  {u"Esame sostenuto ", 2000, Qt::AlignLeft},
                                   {u"Valore", 600, Qt::AlignRight}, {u"Min", 600, Qt::AlignRight},
                                   {u"Max", 600, Qt::AlignRight},    {u"Referto", 10000, Qt::AlignLeft}};
-constexpr int larghezza_data = 72, larghezza_misura = 44, larghezza_scelta = 52, larghezza_dosi = 60;
+constexpr int larghezza_data = 72, larghezza_misura = 44, larghezza_lettura = 34, larghezza_scelta = 52,
+              larghezza_dosi = 60;
 constexpr int intervallo_conta = 500;  // ms
 
 QLabel* segno(const QString& nome) {
@@ -121,11 +122,12 @@ QWidget* Formfunzio::disegna_pressione() {
     const std::size_t lettura = i / 4, casella = i % 4;
     const int colonna = static_cast<int>(lettura % 2 * 5 + casella);
     Text11[i] = campo(u"Text11"_s, i, suggerimenti[casella], teste[casella]);
-    Text11[i]->setFixedWidth(casella == 0 ? larghezza_data : larghezza_misura);
+    Text11[i]->setFixedWidth(casella == 0 ? larghezza_data : larghezza_lettura);
     if (casella > 0) Text11[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (lettura < 2) c.griglia->addWidget(testa(teste[casella]), 0, colonna);
     c.griglia->addWidget(Text11[i], 1 + static_cast<int>(lettura / 2), colonna);
   }
+  c.griglia->setColumnMinimumWidth(4, 10);
   c.griglia->setColumnStretch(4, 1);
   return c.box;
 }
@@ -148,6 +150,7 @@ QWidget* Formfunzio::disegna_farmaci() {
     Text19[i]->setFixedWidth(larghezza_data);
     Text19[i + 20]->setFixedWidth(larghezza_dosi);
   }
+  c.griglia->setRowStretch(c.griglia->rowCount(), 1);
   return c.box;
 }
 

@@ -27,6 +27,7 @@ QLineSeries* linea(std::span<const PuntoGrafico> punti) {
   serie->setPointLabelsVisible(true);
   serie->setPointLabelsFormat(u"@yPoint"_s);
   serie->setPointLabelsClipping(false);
+  serie->setPointLabelsColor(tinta);
   for (std::size_t i = 0; i < punti.size(); ++i) serie->append(static_cast<qreal>(i), punti[i].valore);
   return serie;
 }
@@ -49,16 +50,18 @@ QBarCategoryAxis* asse_visite(std::span<const PuntoGrafico> punti) {
   auto* asse = new QBarCategoryAxis;
   for (const PuntoGrafico& p : punti) asse->append(p.etichetta + QString(asse->count() + 1, QChar(0x200b)));
   asse->setGridLineVisible(false);
+  asse->setTruncateLabels(false);
   return asse;
 }
 
 /// Bars stand on 0. A line that nowhere comes down to it shows the part of the scale where it moves.
 QValueAxis* asse_valori(std::span<const PuntoGrafico> punti, TipoGrafico tipo) {
   const auto [minimo, massimo] = std::ranges::minmax(punti, {}, &PuntoGrafico::valore);
-  const int margine = std::max((massimo.valore - minimo.valore) / 2, 2);
+  const int salto = massimo.valore - minimo.valore, margine = std::max(salto / 2, 2);
   const bool da_zero = tipo == TipoGrafico::barre || minimo.valore <= margine;
   auto* asse = new QValueAxis;
-  asse->setRange(da_zero ? std::min(minimo.valore, 0) : minimo.valore - margine, std::max(massimo.valore, 0) + margine);
+  asse->setRange(da_zero ? std::min(minimo.valore, 0) : minimo.valore - margine,
+                 std::max(massimo.valore, 0) + std::max(salto / 8, 4));
   asse->applyNiceNumbers();
   asse->setLabelFormat(u"%.0f"_s);
   asse->setGridLineColor(griglia_chiara);
@@ -81,7 +84,7 @@ Formgraficotratta::Formgraficotratta() {
   colonna->setSpacing(8);
   colonna->addWidget(MSChart1, 1);
   colonna->addLayout(barra({}, {commchiudi}));
-  resize(660, 420);
+  resize(700, 430);
   al_clic(commchiudi, scarica<Formgraficotratta>);
 }
 

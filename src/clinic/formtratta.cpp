@@ -37,7 +37,9 @@ Formtratta::Formtratta() {
   disegna();
   collega_regole();
   instrada_note(rotta_note, [](int indice, const QString& testo) {
-    schermata<Formtratta>().Text22.at(static_cast<std::size_t>(indice))->setText(testo);
+    QLineEdit* nota = schermata<Formtratta>().Text22.at(static_cast<std::size_t>(indice));
+    nota->setText(testo);
+    nota->home(false);  // a long note shows its beginning
   });
 }
 

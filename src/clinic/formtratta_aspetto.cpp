@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int colonna_gruppo = 0, colonna_misura = 1, prima_visita = 2;
-constexpr int fila_date = 1, larghezza_gruppo = 112, larghezza_nome = 106;
+constexpr int fila_date = 1, larghezza_gruppo = 106, larghezza_nome = 122, larghezza_radio = 17;
 
 /// The rows of measures under one caption; the weight's own caption says it all.
 struct Gruppo {
@@ -51,6 +51,7 @@ void Formtratta::disegna() {
 QWidget* Formtratta::disegna_rilevamenti() {
   const Cornice c = cornice(u"Rilevamenti periodici dell'andamento"_s);
   c.griglia->setHorizontalSpacing(4);
+  c.griglia->setVerticalSpacing(4);
   c.griglia->addWidget(testa(u"Inizio"_s), 0, prima_visita);
   c.griglia->addWidget(testa(u"Controlli"_s), 0, prima_visita + 1, 1, static_cast<int>(visite) - 1);
   c.griglia->addWidget(new QLabel(u"Data"_s), fila_date, colonna_gruppo);
@@ -73,6 +74,7 @@ QWidget* Formtratta::disegna_rilevamenti() {
     c.griglia->addWidget(Command13[i], fila + 1, colonna_visita(i));
     c.griglia->setColumnStretch(colonna_visita(i), 1);
   }
+  c.griglia->setRowStretch(c.griglia->rowCount(), 1);
   c.griglia->setColumnMinimumWidth(colonna_gruppo, larghezza_gruppo);
   c.griglia->setColumnMinimumWidth(colonna_misura, larghezza_nome);
   return c.box;
@@ -95,8 +97,11 @@ void Formtratta::disegna_misura(QGridLayout& griglia, std::size_t misura, int fi
     txtCirco[libera] =
         nominato(new QLineEdit, nome_indice(u"txtCirco", libera), u"Nome della circonferenza, a scelta"_s);
     txtCirco[libera]->setAccessibleName(u"Nome della circonferenza libera %1"_s.arg(libera + 1));
-    txtCirco[libera]->setFixedWidth(larghezza_nome - 18);
-    griglia.addLayout(barra({Option3[misura], txtCirco[libera]}, {}), fila, colonna_misura);
+    Option3[misura]->setFixedWidth(larghezza_radio);
+    QHBoxLayout* nome = barra({Option3[misura], txtCirco[libera]}, {});
+    nome->setStretch(1, 1);
+    nome->setSpacing(1);
+    griglia.addLayout(nome, fila, colonna_misura);
   }
   disponi(griglia, this->*m.serie, m.nome, detto, fila, misura == 0);
   for (QLineEdit* c : this->*m.serie) c->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -110,5 +115,7 @@ QLayout* Formtratta::disegna_grafico() {
     tipo->addButton(Option4[i]);
   }
   Command10 = pulsante(u"Command10"_s, u"Grafico"_s, u"Mostra l'andamento del rilevamento scelto"_s);
-  return barra({guida(u"Grafico: scegliere un rilevamento e il tipo"_s)}, {Option4[0], Option4[1], Command10});
+  QLabel* come = guida(u"Grafico: scegliere un rilevamento e il tipo"_s);
+  come->setWordWrap(false);
+  return barra({come}, {Option4[0], Option4[1], Command10});
 }
