@@ -6,6 +6,7 @@
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
+#include "diary/formdiario.h"
 #include "intake/formanag.h"
 #include "intake/formpers_sezione.h"
 
@@ -100,6 +101,7 @@ constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
     {3, salva_personale, carica_personale},
     {4, salva_funzionale, carica_funzionale},
+    {9, salva_diario, nullptr},
     {10, salva_trattamento, carica_trattamento},
 };
 

@@ -8,6 +8,7 @@
 #include "core/formsched.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
+#include "diary/formdiario.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
@@ -48,6 +49,7 @@ constexpr Chiusura chiusure[]{
     {scarica<Formanag>, true},
     {scarica<Formpers>, true},
     {scarica<Formfunzio>, false},
+    {scarica<Formdiario>, false},
     {scarica<Formelabora>, true},
     {scarica<Formtratta>, true},
     {scarica<Formsched>, true},

@@ -5,6 +5,7 @@
 #include "clinic/formtratta.h"
 #include "core/mdiorza.h"
 #include "core/sessione.h"
+#include "diary/formdiario.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
@@ -19,7 +20,7 @@ constexpr Stadio percorso_stadi[]{
     {3, 2, u"Dati personali", true, mostra<Formpers>, scarica<Formpers>},
     {4, 8, u"Anamnesi patologica", true, mostra<Formfunzio>, scarica<Formfunzio>},
     {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
-    {9, 7, u"Diario alimentare", true, nullptr, nullptr},
+    {9, 7, u"Diario alimentare", true, mostra<Formdiario>, scarica<Formdiario>},
     {1, 15, u"Attività fisica", false, nullptr, nullptr},
     {7, 4, u"Selezione alimenti", true, nullptr, nullptr},
     {8, 5, u"Elaborazione", true, mostra<Formelabora>, scarica<Formelabora>},

@@ -5,6 +5,8 @@
 #include "core/messaggi.h"
 #include "core/regole.h"
 #include "core/sessione.h"
+#include "diary/famiglie.h"
+#include "diary/formdiario.h"
 
 #include <QKeyEvent>
 #include <algorithm>
@@ -56,6 +58,11 @@ void Formintegrat::all_attivazione() {
   Text1[nome]->setFocus();
 }
 
+void Formintegrat::alla_chiusura() {
+  Formdiario* diario = caricata<Formdiario>();
+  if (diario && !dieta()) diario->aggiorna_integratori();
+}
+
 void Formintegrat::reject() { esegui_regola(scarica<Formintegrat>); }
 
 /// Enter in a box goes on to the next: a record typed half would be refused and lost.
@@ -90,12 +97,17 @@ void Formintegrat::salva() {
   for (const std::size_t c : campi) {
     valori << (c == nome ? QVariant(Text1[c]->text()) : QVariant(valore(Text1[c]->text())));
   }
-  const bool dieta = Form_loader.text() == u"0";
   apri_dati_tmp(Scopo::salvare);
-  registra(dati_tmp(), dieta ? u"Integratore_dieta"_s : u"Integratore_diario"_s, valori);
-  if (dieta) avverti_dieta();
+  registra(dati_tmp(), dieta() ? u"Integratore_dieta"_s : u"Integratore_diario"_s, valori);
+  if (dieta()) {
+    avverti_dieta();
+  } else if (Formdiario* diario = caricata<Formdiario>()) {
+    diario->calcola_totali_nutrienti(pasto_pranzo);
+  }
   scarica<Formintegrat>();
 }
+
+bool Formintegrat::dieta() const { return Form_loader.text() == u"0"; }
 
 /// The diet's table alone, whichever the window serves.
 void Formintegrat::elimina() {

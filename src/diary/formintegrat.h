@@ -14,7 +14,8 @@ class Formintegrat : public QDialog {
   Formintegrat();
   void al_caricamento() {}
   void all_attivazione();
-  void alla_chiusura() {}
+  /// The diary's list follows the supplements as they stand now.
+  void alla_chiusura();
   /// The title bar's close: what was typed is lost.
   void reject() override;
 
@@ -34,6 +35,7 @@ class Formintegrat : public QDialog {
  private:
   void disegna();  // formintegrat_aspetto.cpp
   void collega_regole();
+  [[nodiscard]] bool dieta() const;
   void calcola_energia();
   void salva();
   void elimina();
