@@ -190,7 +190,8 @@ void Formdiario::apri_dose(int riga) {
 
 void Formdiario::posa_dose() {
   const QTableWidgetItem* cella = MSFlex1->item(MSFlex1->currentRow(), colonna_dose);
-  if (cella) Combodose->setGeometry(MSFlex1->visualItemRect(cella));
+  // Over the grid line as well: a list is a pixel higher than a line.
+  if (cella) Combodose->setGeometry(MSFlex1->visualItemRect(cella).adjusted(0, 0, 0, 1));
 }
 
 void Formdiario::chiudi_dose() {
@@ -203,6 +204,7 @@ void Formdiario::prendi_dose() {
   const int riga = MSFlex1->currentRow(), scelto = Combodose->currentIndex();
   if (riga >= 0) MSFlex1->item(riga, colonna_dose)->setText(scelto > 0 ? Combodose->currentText() : QString());
   chiudi_dose();
+  MSFlex1->setFocus();
   if (scelto >= 0) salva_scelte();
   if (riga >= 0) MSFlex1->selectRow(riga);
 }
