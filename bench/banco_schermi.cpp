@@ -9,6 +9,7 @@
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/sessione.h"
+#include "diary/formdiario.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 
@@ -77,6 +78,7 @@ void schermi(int volte) {
   parla_con([](const Riquadro&) { return true; });
   mostra<Mdiorza>();
   apri_e_chiudi<Formanag>("master data opens", "master data closes", volte);
+  apri_e_chiudi<Formdiario>("diary opens", "diary closes", volte);
   apri_e_chiudi<Formelabora>("elaboration opens", "elaboration closes", volte);
   mostra<Formanag>();
   std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());

@@ -48,6 +48,14 @@ void riempi(QListWidget* lista, const QStringList& righe) {
   lista->addItems(righe);
 }
 
+QStringList nomi_integratori() {
+  QStringList nomi;
+  for (const Riga& r : dati().righe(u"SELECT Descrizione FROM Integratore_diario"_s)) {
+    nomi << r[u"Descrizione"].toString();
+  }
+  return nomi;
+}
+
 QStringList riga_di(const Alimento& a) {
   QStringList testi;
   for (const std::int16_t codice : {a.cod1, a.cod2, a.cod3, a.cod4}) testi << QString::number(codice);
@@ -126,17 +134,12 @@ void Formdiario::scegli_gruppo() {
 }
 
 void Formdiario::mostra_integratori() {
-  aggiorna_integratori();
+  riempi(ListAlimenti, nomi_integratori());
   if (ListAlimenti->count() == 0) apri_integratore(u"1"_s, {});
 }
 
 void Formdiario::aggiorna_integratori() {
-  if (scelta(ListGRUPPI) != gruppo_integratori) return;
-  QStringList nomi;
-  for (const Riga& r : dati().righe(u"SELECT Descrizione FROM Integratore_diario"_s)) {
-    nomi << r[u"Descrizione"].toString();
-  }
-  riempi(ListAlimenti, nomi);
+  if (scelta(ListGRUPPI) == gruppo_integratori) riempi(ListAlimenti, nomi_integratori());
 }
 
 void Formdiario::scegli_famiglia() {

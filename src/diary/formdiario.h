@@ -23,7 +23,7 @@ class Formdiario : public QWidget {
   void calcola_totali_nutrienti(int pasto);
   /// The client's supplements in the list; where there is none, the window that takes them.
   void mostra_integratori();
-  /// The list again, where it shows the supplements.
+  /// Lists the supplements again, where their group is chosen.
   void aggiorna_integratori();
 
   QListWidget *ListPASTI{}, *ListGRUPPI{}, *ListAlimenti{};

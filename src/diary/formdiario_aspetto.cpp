@@ -5,13 +5,15 @@
 #include "diary/formdiario.h"
 #include "diary/totali.h"
 
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int larghezza_liste = 168, altezza_voce = 17;
+constexpr int larghezza_liste = 170, altezza_voce = 17;
+constexpr int larghezza_livello = 50, larghezza_ritmo = 182;
 constexpr int codici = 4;  // columns that are there for the program alone
 constexpr std::size_t nutrienti = 4;
 
@@ -30,10 +32,18 @@ constexpr Colonna colonne[]{
 
 constexpr QStringView etichette[]{u"Glucidi g.", u"Lipidi g.", u"Protidi g.", u"Kcalorie"};
 
+/// Lines with some air between them.
+class Voci : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {0, altezza_voce}; }
+};
+
 QListWidget* elenco(const QString& nome, const QString& suggerimento, int voci) {
   auto* l = nominato(new QListWidget, nome, suggerimento);
-  l->setUniformItemSizes(true);
-  l->setFixedSize(larghezza_liste, voci * altezza_voce + 2);
+  l->setItemDelegate(new Voci(l));
+  l->setFixedWidth(larghezza_liste);
+  l->setMinimumHeight(voci * altezza_voce + 2);
   l->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   return l;
 }
@@ -79,7 +89,8 @@ QWidget* Formdiario::disegna_scelte() {
   ListGRUPPI->setEnabled(false);
   ListAlimenti =
       aggiungi(u"Famiglia di alimenti"_s, elenco(u"ListAlimenti"_s, u"Famiglia da mostrare nella griglia"_s, 7));
-  c.griglia->setRowStretch(posto, 1);
+  ListPASTI->setMaximumHeight(ListPASTI->minimumHeight());
+  ListGRUPPI->setMaximumHeight(ListGRUPPI->minimumHeight());
   return c.box;
 }
 
@@ -102,6 +113,7 @@ void Formdiario::disegna_griglia() {
 
 QWidget* Formdiario::disegna_livelli() {
   const Cornice c = cornice(u"Livelli"_s);
+  c.griglia->setHorizontalSpacing(4);
   const QStringList blocchi = pasti_diario() + QStringList{u"Tot. giorno"_s};
   for (std::size_t n = 0; n < nutrienti; ++n) {
     c.griglia->addWidget(new QLabel(etichette[n].toString()), static_cast<int>(n) + 1, 0);
@@ -112,7 +124,7 @@ QWidget* Formdiario::disegna_livelli() {
     c.griglia->addWidget(testa(pasto), 0, colonna);
     for (std::size_t n = 0; n < nutrienti; ++n) {
       QLineEdit*& t = TxtLivelli[m * nutrienti + n];
-      t = campo_calcolato(nome_indice(u"TxtLivelli", m * nutrienti + n));
+      t = campo_calcolato(nome_indice(u"TxtLivelli", m * nutrienti + n), larghezza_livello);
       t->setAccessibleName(etichette[n].toString() + u", "_s + pasto);
       c.griglia->addWidget(t, static_cast<int>(n) + 1, colonna, Qt::AlignHCenter);
     }
@@ -123,6 +135,7 @@ QWidget* Formdiario::disegna_livelli() {
 
 QWidget* Formdiario::disegna_ritmo() {
   const Cornice c = cornice(u"Ritmo Alimentare Giornaliero"_s);
+  c.box->setFixedWidth(larghezza_ritmo);
   for (std::size_t i = 0; i < TxtRAG.size(); ++i) {
     TxtRAG[i] = campo_calcolato(nome_indice(u"TxtRAG", i), 40);
     riga(*c.griglia, static_cast<int>(i), pasti_diario()[static_cast<qsizetype>(i)] + u" %"_s, TxtRAG[i]);

@@ -5,8 +5,6 @@
 
 #include "diet/banco.h"
 
-#include <set>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -36,19 +34,6 @@ struct ProvaDiario : Banco {
 };
 
 }  // namespace
-
-TEST(Famiglie, TheirCodesRunFrom1To30) {
-  std::set<int> codici;
-  for (int pasto = 0; pasto < 5; ++pasto) {
-    const auto gruppi = std::max<qsizetype>(gruppi_diario(pasto).size(), 1);
-    for (int gruppo = 0; gruppo < gruppi; ++gruppo) {
-      for (int f = 0; f < famiglie_diario(pasto, gruppo).size(); ++f) codici.insert(trova_cod1(pasto, gruppo, f));
-    }
-  }
-  EXPECT_EQ(codici.size(), 30U);
-  EXPECT_EQ(*codici.begin(), 1);
-  EXPECT_EQ(*codici.rbegin(), 30);
-}
 
 TEST(Famiglie, ACodeFollowsFromTheThreePositions) {
   const std::tuple<int, int, int, int> casi[]{
