@@ -1,12 +1,14 @@
 #include "core/salva_carica.h"
 
 #include "base/errori.h"
+#include "base/numeri.h"
 #include "clinic/formfunzio_sezione.h"
 #include "clinic/formtratta_sezione.h"
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
 #include "diary/formdiario.h"
+#include "diet/formalimenti.h"
 #include "intake/formanag.h"
 #include "intake/formpers_sezione.h"
 
@@ -90,6 +92,12 @@ void carica_anagrafe() {
   }
 }
 
+/// The meal on display, where there is one.
+void salva_spunte_alimenti() {
+  auto* f = caricata<Formalimenti>();
+  if (f && numerico(f->LabATTUALE.text())) f->salva_spunte_alimenti();
+}
+
 /// What a stage writes and reads. A stage that does one of them by itself has null there.
 struct Operazioni {
   int codice;
@@ -101,6 +109,7 @@ constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
     {3, salva_personale, carica_personale},
     {4, salva_funzionale, carica_funzionale},
+    {7, salva_spunte_alimenti, nullptr},
     {9, salva_diario, nullptr},
     {10, salva_trattamento, carica_trattamento},
 };

@@ -9,6 +9,7 @@
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "diary/formdiario.h"
+#include "diet/formalimenti.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
@@ -50,6 +51,7 @@ constexpr Chiusura chiusure[]{
     {scarica<Formpers>, true},
     {scarica<Formfunzio>, false},
     {scarica<Formdiario>, false},
+    {scarica<Formalimenti>, true},
     {scarica<Formelabora>, true},
     {scarica<Formtratta>, true},
     {scarica<Formsched>, true},

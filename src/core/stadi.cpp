@@ -6,6 +6,7 @@
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "diary/formdiario.h"
+#include "diet/formalimenti.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
@@ -22,7 +23,7 @@ constexpr Stadio percorso_stadi[]{
     {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
     {9, 7, u"Diario alimentare", true, mostra<Formdiario>, scarica<Formdiario>},
     {1, 15, u"Attività fisica", false, nullptr, nullptr},
-    {7, 4, u"Selezione alimenti", true, nullptr, nullptr},
+    {7, 4, u"Selezione alimenti", true, mostra<Formalimenti>, scarica<Formalimenti>},
     {8, 5, u"Elaborazione", true, mostra<Formelabora>, scarica<Formelabora>},
     {10, 6, u"Controlli", true, mostra<Formtratta>, scarica<Formtratta>},
 };
