@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int larghezza_passo = 560, larghezza_griglia = 428, altezza_casella = 17;
+constexpr int larghezza_passo = 560, larghezza_griglia = 428, altezza_casella = 18;
 
 constexpr std::array<QStringView, 7> pulsanti_pasti{u"Colazione", u"Colazione Bio", u"Spuntino",   u"Pranzo",
                                                     u"Merenda",   u"Cena",          u"Integratore"};
@@ -112,9 +112,10 @@ QWidget* Formalimenti::disegna_caselle() {
     const Cornice c = cornice(insieme.titolo.toString());
     RiquadroPasto& r = riquadri[i];
     r.Frame = nominato(c.box, u"Frame"_s + nome);
-    c.griglia->setContentsMargins(8, 3, 8, 6);
     c.griglia->setVerticalSpacing(0);
-    c.griglia->addWidget(guida(u"Togliere la spunta per l'eliminazione rapida di gruppi alimentari."_s), 0, 0);
+    QLabel* frase = guida(u"Togliere la spunta per l'eliminazione rapida di gruppi alimentari."_s);
+    frase->setContentsMargins(0, 0, 0, 3);
+    c.griglia->addWidget(frase, 0, 0);
     for (const Casella& voce : insieme.caselle) {
       auto* casella = nominato(new QCheckBox(voce.scritta.toString()), nome_indice(u"Check"_s + nome, r.Check.size()),
                                u"Togliere la spunta per eliminare il gruppo"_s);

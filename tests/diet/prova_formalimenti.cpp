@@ -27,17 +27,23 @@ class ProvaAlimenti : public Ambiente {
     motore() = {};
     caso_in_uso() = caso_con_seme(7);
   }
-  void SetUp() override { ASSERT_TRUE(richiama(registra(cliente("1900_ferri")))); }
+  void SetUp() override {
+    mostra<Mdiorza>();
+    ASSERT_TRUE(richiama(registra(cliente("1900_ferri"))));
+  }
 
   /// Opens the stage for a client who lunches at home and made no choice yet.
   void apri_nuovo() {
     for (const char* tabella : {"alimenti", "alimenti_spuntati", "checkAlimentiSpuntati"}) {
       dati_tmp().esegui(u"DELETE FROM "_s + QString::fromLatin1(tabella));
     }
-    riapri();
+    schermata<Mdiorza>().cmdsopra[4]->click();
+    f = caricata<Formalimenti>();
+    ASSERT_NE(f, nullptr);
   }
   void riapri() {
-    schermata<Mdiorza>().cmdsopra[4]->click();
+    scarica<Formalimenti>();
+    mostra<Formalimenti>();
     f = caricata<Formalimenti>();
     ASSERT_NE(f, nullptr);
     ASSERT_EQ(schermata<Mdiorza>().qualeform.text(), u"7"_s);
@@ -175,7 +181,7 @@ TEST_F(ProvaAlimenti, AnotherLunchDropsItsListAndKeepsTheDinners) {
   EXPECT_EQ(segnati(colonna_di::ok), righe());
   EXPECT_EQ(conta(u"alimenti_spuntati WHERE pasto=4"_s), 0);
   EXPECT_TRUE(casella(u"CheckPranzoFF_0"_s)->isChecked());
-  tocca(u"Lasagne al forno surgelate"_s, colonna_di::lv);
+  tocca(u"Lasagne alla bolognese"_s, colonna_di::lv);
   pasto(cena);
   EXPECT_TRUE(segnato(u"Orata"_s, colonna_di::sd));
   pasto(pranzo);

@@ -25,6 +25,7 @@ void richiama(const QString& cognome) {
   scegli(s.Tabella, riga);
   quadro(m, cognome.toLower() + u"_archivio"_s);
   clic(s.Command10[2]);
+  if (cognome == u"BIANCHI") scelta_degli_alimenti();
   clic(m.cmdsopra[5]);
   pretendi(caricata<Formelabora>() != nullptr, "the elaboration did not open");
 }
