@@ -36,6 +36,29 @@ QGroupBox* disegna_passo(const Passo& p, std::array<QRadioButton*, 2>& opzioni, 
   return c.box;
 }
 
+RiquadroPasto disegna_riquadro(const InsiemeCaselle& insieme) {
+  const QString nome = insieme.nome.toString();
+  const Cornice c = cornice(insieme.titolo.toString());
+  RiquadroPasto r{.Frame = nominato(c.box, u"Frame"_s + nome), .Check = {}};
+  c.griglia->setVerticalSpacing(0);
+  QLabel* frase = guida(u"Togliere la spunta per l'eliminazione rapida di gruppi alimentari."_s);
+  frase->setContentsMargins(0, 0, 0, 3);
+  c.griglia->addWidget(frase, 0, 0);
+  int riga_griglia = 1;
+  for (const Casella& voce : insieme.caselle) {
+    auto* casella = nominato(new QCheckBox(voce.scritta.toString()), nome_indice(u"Check"_s + nome, r.Check.size()),
+                             u"Togliere la spunta per eliminare il gruppo"_s);
+    casella->setChecked(true);
+    casella->setFixedHeight(altezza_casella);
+    r.Check.push_back(casella);
+    c.griglia->addWidget(casella, riga_griglia++, 0);
+  }
+  c.griglia->setRowStretch(riga_griglia++, 1);
+  r.CmdConferma = pulsante(u"CmdConferma"_s + nome, u"Conferma"_s, u"Cliccare per confermare il pasto"_s);
+  c.griglia->addWidget(r.CmdConferma, riga_griglia, 0);
+  return r;
+}
+
 }  // namespace
 
 void Formalimenti::disegna() {
@@ -107,28 +130,8 @@ QWidget* Formalimenti::disegna_caselle() {
   auto* posto = new QGridLayout(destra_);
   posto->setContentsMargins(0, 0, 0, 0);
   for (std::size_t i = 0; i < riquadri.size(); ++i) {
-    const InsiemeCaselle& insieme = insiemi_caselle()[i];
-    const QString nome = insieme.nome.toString();
-    const Cornice c = cornice(insieme.titolo.toString());
-    RiquadroPasto& r = riquadri[i];
-    r.Frame = nominato(c.box, u"Frame"_s + nome);
-    c.griglia->setVerticalSpacing(0);
-    QLabel* frase = guida(u"Togliere la spunta per l'eliminazione rapida di gruppi alimentari."_s);
-    frase->setContentsMargins(0, 0, 0, 3);
-    c.griglia->addWidget(frase, 0, 0);
-    for (const Casella& voce : insieme.caselle) {
-      auto* casella = nominato(new QCheckBox(voce.scritta.toString()), nome_indice(u"Check"_s + nome, r.Check.size()),
-                               u"Togliere la spunta per eliminare il gruppo"_s);
-      casella->setChecked(true);
-      casella->setFixedHeight(altezza_casella);
-      r.Check.push_back(casella);
-      c.griglia->addWidget(casella, static_cast<int>(r.Check.size()), 0);
-    }
-    const int sotto = static_cast<int>(r.Check.size()) + 1;
-    c.griglia->setRowStretch(sotto, 1);
-    r.CmdConferma = pulsante(u"CmdConferma"_s + nome, u"Conferma"_s, u"Cliccare per confermare il pasto"_s);
-    c.griglia->addWidget(r.CmdConferma, sotto + 1, 0);
-    posto->addWidget(r.Frame, 0, 0);
+    riquadri[i] = disegna_riquadro(insiemi_caselle()[i]);
+    posto->addWidget(riquadri[i].Frame, 0, 0);
   }
   MSFlex2 = griglia_scelti(u"MSFlex2"_s);
   MSFlex2->setToolTip(u"Alimenti accettati e obbligatori del pasto"_s);

@@ -1,10 +1,9 @@
 // Which foods a meal's grid shows, what marks, boxes and companion lists do to each other, and what is stored of them.
 #include "attrezzi.h"
-#include "base/liste.h"
 #include "diet/banco.h"
 #include "diet/preferenze_archivio.h"
 
-#include <map>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -153,23 +152,4 @@ TEST_F(Preferenze, AMealIsStoredWholeAndComesBackByPosition) {
   EXPECT_EQ(segnati(corta, Segno::LV), QStringList{}) << "the seventh stored row has no row of the grid";
   dimentica_spunte(dati, 4);
   EXPECT_FALSE(richiama_righe(dati, 4, corta));
-}
-
-TEST_F(Preferenze, TheTwoChoicesAreOneNumber) {
-  cliente({});
-  Archivio dati(percorso(u"dati.tmp"_s));
-  dati.esegui(u"DELETE FROM alimenti"_s);
-  EXPECT_FALSE(leggi_scelta_pranzo(dati));
-  const std::map<int, SceltaPranzo> casi{
-      {12, {true, false}}, {14, {true, true}}, {18, {false, false}}, {21, {false, true}}};
-  for (const auto& [numero, scelta] : casi) {
-    scrivi_scelta_pranzo(dati, scelta);
-    const auto righe = dati.righe(u"SELECT pranzoFF FROM alimenti"_s);
-    ASSERT_EQ(righe.size(), 1U) << "a new client's row is added once";
-    EXPECT_EQ(righe.front()[u"pranzoFF"].toInt(), numero);
-    EXPECT_EQ(leggi_scelta_pranzo(dati)->fast_food, scelta.fast_food);
-    EXPECT_EQ(leggi_scelta_pranzo(dati)->a_mano, scelta.a_mano);
-  }
-  dati.esegui(u"UPDATE alimenti SET pranzoFF=13"_s);
-  EXPECT_FALSE(leggi_scelta_pranzo(dati));
 }

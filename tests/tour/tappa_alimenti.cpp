@@ -20,14 +20,16 @@ void scelta_degli_alimenti() {
   clic(m.cmdsopra[4]);
   auto& f = schermata<Formalimenti>();
   quadro(m, u"alimenti_tipo_di_pranzo"_s);
-  f.CmdContinuaFF->click();
-  f.CmdPasto[0]->click();
+  clic(f.CmdContinuaFF);
+  clic(f.CmdPasto[0]);
   quadro(m, u"alimenti_colazione"_s);
-  f.CmdPasto[5]->click();
-  segna(f.MSFlex1, 3, colonna_di::ok);
-  segna(f.MSFlex1, 3, colonna_di::ok);
+  clic(f.CmdPasto[5]);
+  segna(f.MSFlex1, 1, colonna_di::lv);
+  segna(f.MSFlex1, 2, colonna_di::sd);
   quadro(m, u"alimenti_cena"_s);
-  f.findChild<QPushButton*>(u"CmdConfermaCena"_s)->click();
+  clic(f.findChild<QPushButton*>(u"CmdConfermaCena"_s));
   quadro(m, u"alimenti_scelti"_s);
   pretendi(f.MSFlex2->model()->rowCount() > 0, "no food is chosen");
+  segna(f.MSFlex1, 1, colonna_di::lv);
+  segna(f.MSFlex1, 2, colonna_di::sd);
 }
