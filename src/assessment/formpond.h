@@ -18,6 +18,7 @@
 #include <QWidget>
 #include <array>
 #include <cstdint>
+#include <optional>
 
 class Formpond : public QWidget {
  public:
@@ -68,8 +69,8 @@ class Formpond : public QWidget {
   /// Grams per kilogram by age, then the variation by weight class, which adds up: only right after the first.
   void livello_eta();
   void livello_peso();
-  /// The weight that grams per kilogram refer to. Throws Errore 13, 6.
-  [[nodiscard]] std::int16_t peso_riferimento() const;
+  /// The weight that grams per kilogram refer to; empty where a weight that it needs is missing.
+  [[nodiscard]] std::optional<std::int16_t> peso_riferimento() const;
 
   // First face
   QGroupBox *Frame_larn{}, *Frame_hb{}, *Framebfa{}, *Frame_plico{}, *Frame_scelta{};
@@ -147,6 +148,7 @@ class Formpond : public QWidget {
   void cambia_bfa(std::size_t riga);
   void lascia_plica(std::size_t riga);
   void cambia_plica(std::size_t riga);
+  void somma_pliche();
   void calcola_ama();
   void classifica_muscolo();
   void applica_stress();
@@ -157,9 +159,24 @@ class Formpond : public QWidget {
   void collega_obiettivo();  // pictures included
   void scegli_con_figura(int metodo);
   void scegli_con_invio(int metodo);  // the Enter key in Text1
+  void cambia_metodo();
+  void cambia_traguardo();
+  void proponi_obiettivo();
+  void avvisa_sicurezza();
+  void sposta_traguardo(int kg);
+  void sposta_giorni(int passo);
+  void sposta_razione(int passo);
 
   // formpond_nutrienti.cpp
   void collega_nutrienti();
+  /// Both levels anew, then the grams stored or set by hand.
+  void deriva_livelli();
+  void cambia_livello(std::size_t nutriente);
+  void cambia_grammi();
+  void cambia_kcal();
+  void scrivi_percentuali(const char* forma);
+  void sposta_protidi(int grammi);
+  void sposta_lipidi(int grammi);
 
   QStackedLayout* facce_{};
   bool avvisato_ = false;  // the safety message has been shown

@@ -1,5 +1,6 @@
 #include "core/mdiorza.h"
 
+#include "assessment/formpond.h"
 #include "base/archivio.h"
 #include "base/errori.h"
 #include "core/clienti.h"
@@ -145,6 +146,9 @@ void Mdiorza::apriGuida() {
     guida_ = archivio && archivio->isVisible() ? u"01_Guida_inizio"_s : u"00_Guida_Premessa"_s;
   } else if (const auto g = guide.find(qualeform.text()); g != guide.end()) {
     guida_ = g->second;
+    // The weight screen has a guide for each of its faces.
+    const Formpond* pond = caricata<Formpond>();
+    if (g->first == u"5" && !(pond && pond->LabSCELTA->isVisible())) guida_ += u"_2"_s;
   }
   if (!guida_.isEmpty()) apri_documento(u"help/"_s + guida_ + u".doc"_s);
 }

@@ -1,5 +1,6 @@
 #include "core/salva_carica.h"
 
+#include "assessment/formpond_sezione.h"
 #include "base/errori.h"
 #include "base/numeri.h"
 #include "clinic/formfunzio_sezione.h"
@@ -109,6 +110,7 @@ constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
     {3, salva_personale, carica_personale},
     {4, salva_funzionale, carica_funzionale},
+    {5, salva_dietologica, carica_dietologica},
     {7, salva_spunte_alimenti, nullptr},
     {9, salva_diario, nullptr},
     {10, salva_trattamento, carica_trattamento},

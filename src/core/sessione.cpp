@@ -1,5 +1,6 @@
 #include "core/sessione.h"
 
+#include "assessment/formpond.h"
 #include "base/errori.h"
 #include "base/file.h"
 #include "clinic/formfunzio.h"
@@ -50,6 +51,7 @@ constexpr Chiusura chiusure[]{
     {scarica<Formanag>, true},
     {scarica<Formpers>, true},
     {scarica<Formfunzio>, false},
+    {scarica<Formpond>, false},
     {scarica<Formdiario>, false},
     {scarica<Formalimenti>, true},
     {scarica<Formelabora>, true},

@@ -138,23 +138,10 @@ const Sezione& sezione_dietologica() {
       {u"met_bfa"_s, {u"Text2_2"_s}, Come::se_numero_rifilato},
       {u"pliche"_s, vettore(u"Text5"_s, 0, 4), Come::lista_testi, u'+'},
       {u"stress"_s, {u"Combo1"_s}, Come::posizione},
-      {u"scelta"_s, {u"Lab_scelta"_s}, Come::se_numero},
       {u"peso_ragg"_s, {u"txtpesoragg"_s}, Come::se_numero},
       {u"gg"_s, {u"Text10_4"_s}, Come::se_numero},
-      {u"kcal"_s, {u"Lab_metab"_s}, Come::se_numero},
-      {u"pesoid"_s, {u"Lab_pesoid"_s}, Come::se_numero},
       {u"prot"_s, {u"Text13_0"_s}, Come::se_numero},
       {u"lip"_s, {u"Text13_1"_s}, Come::se_numero},
-  };
-  return s;
-}
-
-const Sezione& sezione_piano() {
-  static const Sezione s{
-      {u"peso_ragg"_s, {u"Lab_txtpesoragg"_s}, Come::se_numero},
-      {u"gg"_s, {u"Lab_giornimodificati"_s}, Come::se_numero},
-      {u"prot"_s, {u"LabPROT"_s}, Come::se_numero},
-      {u"lip"_s, {u"LabLIP"_s}, Come::se_numero},
   };
   return s;
 }

@@ -17,8 +17,7 @@ const std::vector<Sezione>& sezioni_pressione();
 const QStringList& esami_scritti();
 const QStringList& esami_letti();
 
-const Sezione& sezione_dietologica();  // Formpond
-const Sezione& sezione_piano();        // where the plan comes back: other controls than those it is saved from
+const Sezione& sezione_dietologica();  // Formpond; method, consumption and ideal weight have no control
 
 /// The shares of the day's meals. They are stored only all five together.
 const Sezione& sezione_diario();

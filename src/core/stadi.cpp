@@ -1,5 +1,6 @@
 #include "core/stadi.h"
 
+#include "assessment/formpond.h"
 #include "base/numeri.h"
 #include "clinic/formfunzio.h"
 #include "clinic/formtratta.h"
@@ -20,7 +21,7 @@ constexpr Stadio percorso_stadi[]{
     {0, 1, u"Scheda Anagrafica", true, mostra<Formanag>, scarica<Formanag>},
     {3, 2, u"Dati personali", true, mostra<Formpers>, scarica<Formpers>},
     {4, 8, u"Anamnesi patologica", true, mostra<Formfunzio>, scarica<Formfunzio>},
-    {5, 3, u"Dati ponderali & Antropometrici", true, nullptr, nullptr},
+    {5, 3, u"Dati ponderali & Antropometrici", true, mostra<Formpond>, scarica<Formpond>},
     {9, 7, u"Diario alimentare", true, mostra<Formdiario>, scarica<Formdiario>},
     {1, 15, u"Attività fisica", false, nullptr, nullptr},
     {7, 4, u"Selezione alimenti", true, mostra<Formalimenti>, scarica<Formalimenti>},

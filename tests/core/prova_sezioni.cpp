@@ -153,10 +153,14 @@ TEST_F(ProvaSezioni, EachSectionCoversItsTable) {
   const std::set<QString> numero{u"cod_cli"_s};
   // Each with the columns that no control feeds.
   const std::tuple<QString, Sezione, std::set<QString>> casi[]{
-      {u"anagrafe"_s, sezione_anagrafe(), {u"foto"_s}},  {u"sport"_s, sezione_sport(), {}},
-      {u"personale"_s, sezione_personale(), numero},     {u"Anamnesi"_s, sezione_anamnesi(), {}},
-      {u"farmaci"_s, sezioni_farmaci().back(), {}},      {u"pressione"_s, sezioni_pressione().back(), {}},
-      {u"dietologica"_s, sezione_dietologica(), numero}, {u"trattamento"_s, sezione_trattamento(), numero},
+      {u"anagrafe"_s, sezione_anagrafe(), {u"foto"_s}},
+      {u"sport"_s, sezione_sport(), {}},
+      {u"personale"_s, sezione_personale(), numero},
+      {u"Anamnesi"_s, sezione_anamnesi(), {}},
+      {u"farmaci"_s, sezioni_farmaci().back(), {}},
+      {u"pressione"_s, sezioni_pressione().back(), {}},
+      {u"dietologica"_s, sezione_dietologica(), {u"cod_cli"_s, u"scelta"_s, u"kcal"_s, u"pesoid"_s}},
+      {u"trattamento"_s, sezione_trattamento(), numero},
   };
   apri_dati_tmp(Scopo::salvare);
   for (const auto& [tabella, sezione, altri] : casi) {
