@@ -60,8 +60,8 @@ void Formpond::collega_obiettivo() {
   for (std::size_t i = 0; i < Image1.size(); ++i) {
     al_clic(Image1[i], [this, i] { scegli_con_figura(static_cast<int>(i)); });
   }
-  Lab_metab.al_cambio([this] { Text10[consumo]->setText(Lab_metab.text()); });
-  Lab_scelta.al_cambio([this] { cambia_metodo(); });
+  al_cambio(Lab_metab, [this] { Text10[consumo]->setText(Lab_metab.text()); });
+  al_cambio(Lab_scelta, [this] { cambia_metodo(); });
   al_cambio(txtpesoragg, [this] { cambia_traguardo(); });
   al_cambio(Text10[razione], [this] {
     if (numerico(Text10[razione]->text())) Txtkcal->setText(Text10[razione]->text());

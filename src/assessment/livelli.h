@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringView>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 
