@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -132,8 +133,10 @@ class Formpond : public QWidget {
   QWidget* disegna_metodi();
   QWidget* disegna_scala();
   QWidget* disegna_faccia_obiettivo();
+  void disegna_frecce();
   QWidget* disegna_obiettivo();
   QWidget* disegna_nutrienti();
+  void disegna_nutriente(QGridLayout& griglia, std::size_t indice);
   QWidget* disegna_livelli_eta();
   QWidget* disegna_livelli_peso();
   QWidget* disegna_ritorno();

@@ -3,32 +3,44 @@
 #include "core/aspetto.h"
 #include "core/schermate.h"
 
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QVBoxLayout>
 #include <span>
+#include <type_traits>
 #include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int larghezza_scala = 158, altezza_banda = 55;
+constexpr int larghezza_scala = 150, altezza_banda = 55;
 constexpr int larghezza_sinistra = 274;  // of the panels left on the first face
 constexpr int larghezza_livelli = 274;   // of the panels right on the second face
+constexpr int larghezza_spunta = 18, larghezza_nome = 130, larghezza_cifra = 60, rientro_cifra = 12;  // of a level
+constexpr int larghezza_nutriente = 52;
+constexpr std::array colonne_nutrienti{1, 2, 4, 5};  // grams per kilogram, grams, kcal, percent
 constexpr QColor su_fondo_scuro{0xdf, 0xee, 0xe8}, marcato{0xff, 0xff, 0x00};
 
 template <std::size_t N>
-void calcolati(std::array<QLineEdit*, N>& campi, const QString& nome) {
-  for (std::size_t i = 0; i < N; ++i) campi[i] = campo_calcolato(nome_indice(nome, i));
+void calcolati(std::array<QLineEdit*, N>& campi, const QString& nome, int larghezza = larghezza_numero) {
+  for (std::size_t i = 0; i < N; ++i) campi[i] = campo_calcolato(nome_indice(nome, i), larghezza);
 }
 
 constexpr std::array<QStringView, 4> righe_metabolismo{u"Peso Kg", u"B. M. I.", u"Metabolismo basale Kc",
                                                        u"Fabbisogno tot. calorie"};
 
+/// A label that leaves spare height to the rows around it.
+QLabel* bassa(QLabel* etichetta) {
+  etichetta->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return etichetta;
+}
+
 /// Two columns of figures under their heads, with the labels of the rows left of them.
 void due_colonne(QGridLayout& g, int riga, std::span<const QStringView> etichette, std::span<QLineEdit* const> attuale,
                  std::span<QLineEdit* const> ideale) {
-  g.addWidget(testa(u"ATTUALE"_s), riga, 1);
-  g.addWidget(testa(u"IDEALE"_s), riga, 2);
+  g.addWidget(bassa(testa(u"ATTUALE"_s)), riga, 1);
+  g.addWidget(bassa(testa(u"IDEALE"_s)), riga, 2);
   for (std::size_t i = 0; i < etichette.size(); ++i) {
     const int r = riga + 1 + static_cast<int>(i);
     const QString scritta = etichette[i].toString();
@@ -45,7 +57,7 @@ QPushButton* freccia(const QString& nome, std::size_t indice, bool su, const QSt
   QPushButton* b = pulsante(nome_indice(nome, indice), {}, suggerimento, su ? u"freccia_su"_s : u"freccia_giu"_s);
   b->setProperty("ruolo", u"freccia"_s);
   b->setIconSize({9, 9});
-  b->setFixedSize(24, 19);
+  b->setFixedSize(22, 19);
   b->setAccessibleName(suggerimento);
   return b;
 }
@@ -65,30 +77,45 @@ void marca_riga(QAbstractButton& riga, bool si) {
   riga.setPalette(colori);
 }
 
-/// A row of the two tables of levels: it shows which one applied and cannot be chosen.
+/// A row of the two tables of levels: it shows which one applied and cannot be chosen. Its text holds a name and two
+/// figures parted by blanks, which it draws in columns.
 template <class C>
-C* riga_livello(const QString& nome, std::size_t indice, QStringView testo) {
-  auto* r = nominato(new C(testo.toString()), nome_indice(nome, indice));
-  r->setAutoExclusive(false);
-  r->setFocusPolicy(Qt::NoFocus);
-  r->setAttribute(Qt::WA_TransparentForMouseEvents);
-  marca_riga(*r, false);
-  return r;
-}
+class RigaLivello : public C {
+ public:
+  RigaLivello(const QString& nome, std::size_t indice, QStringView testo) : C(testo.toString()) {
+    nominato(this, nome_indice(nome, indice));
+    this->setAutoExclusive(false);
+    this->setFocusPolicy(Qt::NoFocus);
+    this->setAttribute(Qt::WA_TransparentForMouseEvents);
+    marca_riga(*this, false);
+  }
 
-/// Heads over the two columns of figures that a row of levels holds within its text.
-QHBoxLayout* teste_livelli(const QAbstractButton& riga, const QString& prima) {
-  constexpr int spunta = 18;  // pixels of the tick and its distance
-  const QString testo = riga.text();
-  const qsizetype seconda_virgola = testo.lastIndexOf(u',');
-  const auto centro = [&](qsizetype virgola) {
-    return spunta + riga.fontMetrics().horizontalAdvance(testo.left(virgola + 1));
-  };
-  const int protidi = centro(testo.lastIndexOf(u',', seconda_virgola - 1)), passo = centro(seconda_virgola) - protidi;
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStyleOptionButton spunta;
+    this->initStyleOption(&spunta);
+    spunta.text.clear();
+    QStylePainter p(this);
+    p.drawControl(std::is_same_v<C, QCheckBox> ? QStyle::CE_CheckBox : QStyle::CE_RadioButton, spunta);
+    p.setPen(this->palette().color(QPalette::WindowText));
+    const QStringList parti = this->text().split(u"   "_s, Qt::SkipEmptyParts);
+    QRect posto(larghezza_spunta, 0, larghezza_nome - larghezza_spunta, this->height());
+    p.drawText(posto, Qt::AlignLeft | Qt::AlignVCenter, parti[0].trimmed());
+    posto = {larghezza_nome, 0, larghezza_cifra - rientro_cifra, this->height()};
+    for (const QString& cifra : parti.mid(1)) {
+      p.drawText(posto, Qt::AlignRight | Qt::AlignVCenter, cifra.trimmed());
+      posto.translate(larghezza_cifra, 0);
+    }
+  }
+};
+
+/// Heads over the columns of the levels.
+QHBoxLayout* teste_livelli(const QString& prima) {
   auto* fila = new QHBoxLayout;
   fila->setSpacing(0);
   for (const auto& [scritta, larghezza] :
-       {std::pair{prima, protidi - passo / 2}, std::pair{u"Protidi g."_s, passo}, std::pair{u"Lipidi g."_s, passo}}) {
+       {std::pair{prima, larghezza_nome}, std::pair{u"Protidi g."_s, larghezza_cifra},
+        std::pair{u"Lipidi g."_s, larghezza_cifra}}) {
     QLabel* t = testa(scritta);
     t->setFixedWidth(larghezza);
     fila->addWidget(t);
@@ -114,7 +141,7 @@ QWidget* tabella_livelli(QGroupBox*& frame, const QString& nome, const QString& 
                          const std::array<C*, N>& righe) {
   const Cornice c = cornice(titolo);
   frame = nominato(c.box, nome);
-  c.griglia->addLayout(teste_livelli(*righe[0], prima), 0, 0);
+  c.griglia->addLayout(teste_livelli(prima), 0, 0);
   const std::vector<QWidget*> tutte(righe.begin(), righe.end());
   c.griglia->addWidget(fondo_scuro(tutte), 1, 0);
   c.griglia->setRowStretch(1, 1);
@@ -167,7 +194,6 @@ QWidget* Formpond::disegna_scelta() {
   sopra->addWidget(disegna_plico(), 1);
   colonna->addLayout(sopra, 1);
   colonna->addWidget(disegna_metodi());
-  setTabOrder(Command2, Text3[0]);
   return faccia;
 }
 
@@ -175,6 +201,8 @@ QWidget* Formpond::disegna_larn() {
   const Cornice c = cornice(u"Situazione secondo L.A.R.N."_s);
   Frame_larn = nominato(c.box, u"Frame_larn"_s);
   Command2 = pulsante(u"Command2"_s, u"Cos'è il B. M. I. ?"_s, u"Spiega come si ricava l'indice di massa corporea"_s);
+  Command2->setProperty("ruolo", u"freccia"_s);
+  c.griglia->setRowMinimumHeight(0, 19);
   c.griglia->addWidget(Command2, 0, 0);
   calcolati(Text8, u"Text8"_s);
   calcolati(Text9, u"Text9"_s);
@@ -207,7 +235,7 @@ QWidget* Formpond::disegna_bfa() {
 QWidget* Formpond::disegna_plico() {
   const Cornice c = cornice(u"Plicometria (Durnin)"_s);
   Frame_plico = nominato(c.box, u"Frame_plico"_s);
-  c.griglia->addWidget(guida(u"Inserire i valori in mm."_s), 0, 0, 1, 3);
+  c.griglia->addWidget(bassa(guida(u"Inserire i valori in mm."_s)), 0, 0, 1, 3);
   constexpr std::array<QStringView, 7> misure{u"Plica bicipitale",
                                               u"Plica tricipitale",
                                               u"Plica sottoscapolare",
@@ -247,7 +275,7 @@ QWidget* Formpond::disegna_metodi() {
     Image1[i] = nominato(new QToolButton, nome_indice(u"Image1", i), u"Seleziona il metodo "_s + metodi[i]);
     Image1[i]->setIcon(icona(u"metodo_%1"_s.arg(i)));
     Image1[i]->setIconSize({44, 40});
-    Image1[i]->setFixedSize(108, 46);
+    Image1[i]->setFixedSize(108, 44);
     Image1[i]->setFocusPolicy(Qt::NoFocus);
     Image1[i]->setAccessibleName(metodi[i]);
     Text1[i] = campo_calcolato(nome_indice(u"Text1", i), 108, Qt::AlignHCenter);
@@ -312,17 +340,21 @@ QWidget* Formpond::disegna_faccia_obiettivo() {
   return faccia;
 }
 
-QWidget* Formpond::disegna_obiettivo() {
-  const Cornice c = cornice(u"Obiettivo"_s);
-  Frame_obiettivo = nominato(c.box, u"Frame_obiettivo"_s);
-  txtpesoragg = campo_numero(u"txtpesoragg"_s, u"Peso a cui arrivare, in chilogrammi"_s);
-  calcolati(Text10, u"Text10"_s);
+void Formpond::disegna_frecce() {
   const std::array quantita{u"peso da raggiungere"_s, u"giorni"_s, u"razione"_s};
   const std::array passi{u"un chilogrammo"_s, u"un giorno"_s, u"5 calorie"_s};
   for (std::size_t i = 0; i < CmdSU2.size(); ++i) {
     CmdSU2[i] = freccia(u"CmdSU2"_s, i, true, u"Aumenta di "_s + passi[i] + u": "_s + quantita[i]);
     CmdGIU2[i] = freccia(u"CmdGIU2"_s, i, false, u"Diminuisce di "_s + passi[i] + u": "_s + quantita[i]);
   }
+}
+
+QWidget* Formpond::disegna_obiettivo() {
+  const Cornice c = cornice(u"Obiettivo"_s);
+  Frame_obiettivo = nominato(c.box, u"Frame_obiettivo"_s);
+  txtpesoragg = campo_numero(u"txtpesoragg"_s, u"Peso a cui arrivare, in chilogrammi"_s);
+  calcolati(Text10, u"Text10"_s);
+  disegna_frecce();
   struct RigaObiettivo {
     QLabel** etichetta;
     QString nome, scritta;
@@ -352,43 +384,51 @@ QWidget* Formpond::disegna_obiettivo() {
 QWidget* Formpond::disegna_nutrienti() {
   const Cornice c = cornice(u"Livello Nutrienti di base (senza attività fisica)"_s);
   Frame_nutrienti = nominato(c.box, u"Frame_nutrienti"_s);
-  const std::array teste{u"g/Kg di\npeso ideale"_s, u"g. totali"_s, u"Kcal"_s, u"%"_s};
-  const std::array colonne{1, 2, 4, 5};
-  for (std::size_t i = 0; i < teste.size(); ++i) c.griglia->addWidget(testa(teste[i]), 0, colonne[i]);
-  Txtprotg_Kg = campo_numero(u"Txtprotg_Kg"_s, u"Grammi di protidi per chilogrammo di peso ideale"_s);
-  Txtlipg_Kg = campo_numero(u"Txtlipg_Kg"_s, u"Grammi di lipidi per chilogrammo di peso ideale"_s);
-  calcolati(Text11, u"Text11"_s);
-  calcolati(Text12, u"Text12"_s);
-  const std::array righe{u"Protidi"_s, u"Lipidi"_s, u"Glucidi"_s};
-  const std::array per_chilo{Txtprotg_Kg, Txtlipg_Kg};
-  for (std::size_t i = 0; i < righe.size(); ++i) {
-    const int r = 1 + static_cast<int>(i);
-    if (i < per_chilo.size()) {
-      Text13[i] = campo_numero(nome_indice(u"Text13", i), righe[i] + u" al giorno, in grammi"_s);
-      c.griglia->addWidget(etichetta_di(righe[i], per_chilo[i]), r, 0);
-      c.griglia->addWidget(per_chilo[i], r, 1);
-      CmdSU[i] = freccia(u"CmdSU"_s, i, true, righe[i] + u": un grammo in più"_s);
-      CmdGIU[i] = freccia(u"CmdGIU"_s, i, false, righe[i] + u": un grammo in meno"_s);
-      c.griglia->addLayout(coppia(CmdSU[i], CmdGIU[i]), r, 3);
-    } else {
-      Text13[i] = campo_calcolato(nome_indice(u"Text13", i));
-      c.griglia->addWidget(etichetta_di(righe[i], Text13[i]), r, 0);
-    }
-    const std::array campi{Text13[i], Text11[i], Text12[i]};
-    const std::array misure{u", grammi"_s, u", kcal"_s, u", per cento"_s};
-    for (std::size_t k = 0; k < campi.size(); ++k) {
-      campi[k]->setAccessibleName(righe[i] + misure[k]);
-      c.griglia->addWidget(campi[k], r, colonne[k + 1]);
-    }
+  const std::array teste{u"g/Kg di peso ideale"_s, u"g. totali"_s, u"Kcal"_s, u"%"_s};
+  for (std::size_t i = 0; i < teste.size(); ++i) {
+    QLabel* t = bassa(testa(teste[i]));
+    t->setWordWrap(true);
+    t->setFixedWidth(larghezza_nutriente);
+    c.griglia->addWidget(t, 0, colonne_nutrienti[i]);
   }
-  Txtkcal = campo_calcolato(u"Txtkcal"_s);
-  Txtkcalperc = campo_calcolato(u"Txtkcalperc"_s);
+  c.griglia->setHorizontalSpacing(4);
+  Txtprotg_Kg =
+      campo_numero(u"Txtprotg_Kg"_s, u"Grammi di protidi per chilogrammo di peso ideale"_s, larghezza_nutriente);
+  Txtlipg_Kg = campo_numero(u"Txtlipg_Kg"_s, u"Grammi di lipidi per chilogrammo di peso ideale"_s, larghezza_nutriente);
+  for (std::size_t i = 0; i < Text13.size(); ++i) disegna_nutriente(*c.griglia, i);
+  Txtkcal = campo_calcolato(u"Txtkcal"_s, larghezza_nutriente);
+  Txtkcalperc = campo_calcolato(u"Txtkcalperc"_s, larghezza_nutriente);
   Txtkcalperc->setText(u"100"_s);
   c.griglia->addWidget(etichetta_di(u"Totale"_s, Txtkcal), 4, 0);
-  c.griglia->addWidget(Txtkcal, 4, 4);
-  c.griglia->addWidget(Txtkcalperc, 4, 5);
+  c.griglia->addWidget(Txtkcal, 4, colonne_nutrienti[2]);
+  c.griglia->addWidget(Txtkcalperc, 4, colonne_nutrienti[3]);
   c.griglia->setColumnStretch(0, 1);
   return Frame_nutrienti;
+}
+
+/// A row of the nutrients: protein and fat are for typing, carbohydrate is what remains.
+void Formpond::disegna_nutriente(QGridLayout& griglia, std::size_t i) {
+  const std::array nomi{u"Protidi"_s, u"Lipidi"_s, u"Glucidi"_s};
+  const int r = 1 + static_cast<int>(i);
+  const bool libero = i < CmdSU.size();
+  const QString grammi = nome_indice(u"Text13", i);
+  Text13[i] = libero ? campo_numero(grammi, nomi[i] + u" al giorno, in grammi"_s, larghezza_nutriente)
+                     : campo_calcolato(grammi, larghezza_nutriente);
+  Text11[i] = campo_calcolato(nome_indice(u"Text11", i), larghezza_nutriente);
+  Text12[i] = campo_calcolato(nome_indice(u"Text12", i), larghezza_nutriente);
+  QLineEdit* per_chilo = i == 0 ? Txtprotg_Kg : Txtlipg_Kg;
+  griglia.addWidget(etichetta_di(nomi[i], libero ? per_chilo : Text13[i]), r, 0);
+  if (libero) griglia.addWidget(per_chilo, r, colonne_nutrienti[0]);
+  const std::array campi{Text13[i], Text11[i], Text12[i]};
+  const std::array misure{u", grammi"_s, u", kcal"_s, u", per cento"_s};
+  for (std::size_t k = 0; k < campi.size(); ++k) {
+    campi[k]->setAccessibleName(nomi[i] + misure[k]);
+    griglia.addWidget(campi[k], r, colonne_nutrienti[k + 1]);
+  }
+  if (!libero) return;
+  CmdSU[i] = freccia(u"CmdSU"_s, i, true, nomi[i] + u": un grammo in più"_s);
+  CmdGIU[i] = freccia(u"CmdGIU"_s, i, false, nomi[i] + u": un grammo in meno"_s);
+  griglia.addLayout(coppia(CmdSU[i], CmdGIU[i]), r, 3);
 }
 
 QWidget* Formpond::disegna_livelli_eta() {
@@ -396,7 +436,7 @@ QWidget* Formpond::disegna_livelli_eta() {
       u"   10 - 13 anni          1,55            1,10", u"   14 - 16 anni          1,30            1,10",
       u"   17 - 20 anni          1,10            1,05", u"   21 - 50 anni          1,10            1,05",
       u"   51 - 60 anni          1,10            1,00", u"       > 60 anni          1,10            1,00"};
-  for (std::size_t i = 0; i < righe.size(); ++i) Check4[i] = riga_livello<QCheckBox>(u"Check4"_s, i, righe[i]);
+  for (std::size_t i = 0; i < righe.size(); ++i) Check4[i] = new RigaLivello<QCheckBox>(u"Check4"_s, i, righe[i]);
   return tabella_livelli(Frame11, u"Frame11"_s, u"Protidi e Lipidi  in base all'età (g x Kg.P.I.)"_s,
                          u"Età del soggetto"_s, Check4);
 }
@@ -407,7 +447,7 @@ QWidget* Formpond::disegna_livelli_peso() {
       u"Peso normale                   0                0", u"Sovrappeso lieve      + 0,10               0",
       u"Sovrappeso              + 0,15               0",    u"Obesità lieve             + 0,20          - 0,05",
       u"Obesità grave           + 0,25          - 0,10",    u"Obesità Patologica   + 0,25          - 0,10"};
-  for (std::size_t i = 0; i < righe.size(); ++i) Option2[i] = riga_livello<QRadioButton>(u"Option2"_s, i, righe[i]);
+  for (std::size_t i = 0; i < righe.size(); ++i) Option2[i] = new RigaLivello<QRadioButton>(u"Option2"_s, i, righe[i]);
   return tabella_livelli(Frame12, u"Frame12"_s, u"Variazione in base alla situazione del peso"_s, {}, Option2);
 }
 

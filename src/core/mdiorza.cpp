@@ -148,7 +148,7 @@ void Mdiorza::apriGuida() {
     guida_ = g->second;
     // The weight screen has a guide for each of its faces.
     const Formpond* pond = caricata<Formpond>();
-    if (g->first == u"5" && !(pond && pond->LabSCELTA->isVisible())) guida_ += u"_2"_s;
+    if (g->first == u"5" && pond && pond->LabSCELTA->isHidden()) guida_ += u"_2"_s;
   }
   if (!guida_.isEmpty()) apri_documento(u"help/"_s + guida_ + u".doc"_s);
 }

@@ -83,7 +83,7 @@ TEST_F(ProvaFinestra, TheMoveButtonsPassOverStagesWithoutAScreen) {
   m.Command1[1]->click();
   EXPECT_EQ(passati.takeFirst(), u"-1"_s);
   ASSERT_TRUE(stadio(passati.takeLast())) << "the next stage is one of the path";
-  EXPECT_FALSE(caricata<Formanag>());
+  EXPECT_FALSE(schermata<Formanag>().isVisible());
   m.Command1[0]->click();
   EXPECT_EQ(passati, (QStringList{u"-1"_s, u"0"_s}));
   EXPECT_TRUE(schermata<Formanag>().isVisible());
