@@ -87,6 +87,7 @@ QMap<QString, QString> comincia_e_salva() {
   pretendi(!caricata<Formanag>(), "Avanti does not leave the master data");
   scrivi_personali();
   quadro(m, u"personali"_s);
+  pretendi(!schermata<Formanag>().isVisible(), "Avanti does not leave the master data");
   clic(m.Command1[0]);
   pretendi(contenuto(schermata<Formanag>()) == scritto, "a step along the path and back changed the master data");
   clic(m.Command2[1]);
