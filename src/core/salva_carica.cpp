@@ -1,5 +1,6 @@
 #include "core/salva_carica.h"
 
+#include "assessment/formattivita_sezione.h"
 #include "assessment/formpond_sezione.h"
 #include "base/errori.h"
 #include "base/numeri.h"
@@ -108,6 +109,7 @@ struct Operazioni {
 
 constexpr Operazioni operazioni[]{
     {0, salva_anagrafe, carica_anagrafe},
+    {1, salva_sport, carica_sport},
     {3, salva_personale, carica_personale},
     {4, salva_funzionale, carica_funzionale},
     {5, salva_dietologica, carica_dietologica},

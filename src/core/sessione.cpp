@@ -1,5 +1,6 @@
 #include "core/sessione.h"
 
+#include "assessment/formattivita.h"
 #include "assessment/formpond.h"
 #include "base/errori.h"
 #include "base/file.h"
@@ -57,6 +58,7 @@ constexpr Chiusura chiusure[]{
     {scarica<Formelabora>, true},
     {scarica<Formtratta>, true},
     {scarica<Formsched>, true},
+    {scarica<Formattività>, false},
 };
 // clang-format on
 

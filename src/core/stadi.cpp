@@ -1,5 +1,6 @@
 #include "core/stadi.h"
 
+#include "assessment/formattivita.h"
 #include "assessment/formpond.h"
 #include "base/numeri.h"
 #include "clinic/formfunzio.h"
@@ -23,7 +24,7 @@ constexpr Stadio percorso_stadi[]{
     {4, 8, u"Anamnesi patologica", true, mostra<Formfunzio>, scarica<Formfunzio>},
     {5, 3, u"Dati ponderali & Antropometrici", true, mostra<Formpond>, scarica<Formpond>},
     {9, 7, u"Diario alimentare", true, mostra<Formdiario>, scarica<Formdiario>},
-    {1, 15, u"Attività fisica", false, nullptr, nullptr},
+    {1, 15, u"Attività fisica", false, mostra<Formattività>, scarica<Formattività>},
     {7, 4, u"Selezione alimenti", true, mostra<Formalimenti>, scarica<Formalimenti>},
     {8, 5, u"Elaborazione", true, mostra<Formelabora>, scarica<Formelabora>},
     {10, 6, u"Controlli", true, mostra<Formtratta>, scarica<Formtratta>},

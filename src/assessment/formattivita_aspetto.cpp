@@ -1,0 +1,227 @@
+#include "assessment/attivita_sportive.h"
+#include "assessment/formattivita.h"
+#include "core/aspetto.h"
+#include "core/schermate.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QGraphicsLayout>
+#include <QLegend>
+#include <QLocale>
+#include <QRegularExpressionValidator>
+#include <QVBoxLayout>
+#include <QValueAxis>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList nomi_giorni{u"Lunedì"_s,  u"Martedì"_s, u"Mercoledì"_s, u"Giovedì"_s,
+                              u"Venerdì"_s, u"Sabato"_s,  u"Domenica"_s};
+const QStringList voci_minuti{u"0"_s,   u"15"_s,  u"30"_s,  u"45"_s,  u"60"_s, u"90"_s,
+                              u"120"_s, u"150"_s, u"180"_s, u"210"_s, u"240"_s};
+
+/// A meal in the order of the day, which is that of the screen: its place among the percentages and what it is called.
+struct Voce {
+  std::size_t pasto;
+  QStringView nome;
+};
+constexpr Voce pasti_del_giorno[]{
+    {colazione, u"Colazione"}, {spuntino, u"Spuntino"}, {pranzo, u"Pranzo"}, {merenda, u"Merenda"}, {cena, u"Cena"}};
+
+constexpr QColor inchiostro{0x1f, 0x2a, 0x30}, verde{0x4f, 0xa0, 0x86}, verde_scuro{0x14, 0x61, 0x4b}, righe{0xdd, 0xe4, 0xe0}, fondo{0xf7, 0xf9, 0xf8};
+constexpr int larghezza_calorie = 52, larghezza_razione = 68, larghezza_percento = 34, larghezza_freccia = 18;
+
+QComboBox* lista(const QString& nome, const QStringList& voci, const QString& suggerimento) {
+  auto* l = nominato(new QComboBox, nome, suggerimento);
+  l->addItems(voci);
+  l->setCurrentIndex(-1);
+  l->setMaxVisibleItems(14);
+  return l;
+}
+
+QPushButton* freccia(const QString& nome, const QString& suggerimento, const QString& nome_icona) {
+  QPushButton* b = pulsante(nome, {}, suggerimento, nome_icona);
+  b->setAccessibleName(suggerimento);
+  b->setStyleSheet(u"padding: 0; min-height: 0;"_s);
+  b->setIconSize({7, 7});
+  b->setFixedSize(larghezza_freccia, 21);
+  return b;
+}
+
+}  // namespace
+
+void Formattività::disegna() {
+  prendi_posto(*this);
+  setObjectName(u"Formattività"_s);
+  setWindowTitle(u"Attività fisica"_s);
+  auto* colonna = new QVBoxLayout(this);
+  colonna->setContentsMargins(6, 4, 6, 6);
+  colonna->setSpacing(4);
+  colonna->addWidget(disegna_settimana());
+  auto* sotto = new QHBoxLayout;
+  sotto->setSpacing(6);
+  auto* percentuali = new QVBoxLayout;
+  percentuali->setSpacing(4);
+  percentuali->addWidget(disegna_in_uso());
+  percentuali->addWidget(disegna_dal_diario());
+  sotto->addLayout(percentuali);
+  sotto->addWidget(disegna_grafico(), 1);
+  colonna->addLayout(sotto, 1);
+}
+
+QWidget* Formattività::disegna_settimana() {
+  const Cornice c = cornice(u"Attività della settimana"_s);
+  auto* scelta = new QVBoxLayout;
+  scelta->setSpacing(3);
+  QStringList nomi;
+  for (const AttivitàSportiva& a : attività_sportive()) nomi << a.nome.toString();
+  Combo13 = lista(u"Combo13"_s, nomi, u"Attività da assegnare ai giorni"_s);
+  Combo13->setFixedWidth(244);
+  scelta->addWidget(etichetta_di(u"Attività fisica"_s, Combo13));
+  scelta->addWidget(Combo13);
+  scelta->addWidget(guida(u"Scegliere l'attività, poi i minuti dei giorni in cui si pratica."_s));
+  Immaginesport = nominato(new QLabel, u"Immaginesport"_s);
+  Immaginesport->setAlignment(Qt::AlignCenter);
+  Immaginesport->setAccessibleName(u"Figura dell'attività"_s);
+  scelta->addWidget(Immaginesport, 1);
+  c.griglia->addLayout(scelta, 0, 0, static_cast<int>(Combo14.size()) + 1, 1);
+  c.griglia->setColumnStretch(0, 1);
+  c.griglia->setColumnMinimumWidth(1, 64);
+  disegna_giorni(*c.griglia);
+  return c.box;
+}
+
+void Formattività::disegna_giorni(QGridLayout& griglia) {
+  struct Colonna {
+    QStringView testa, nome;
+    std::array<QLineEdit*, 7>* campi;
+    int larghezza;
+  };
+  const Colonna colonne[]{{u"Calorie /gg", u"Text15", &Text15, larghezza_calorie},
+                          {u"Razione Calorica Giornaliera", u"Text1", &Text1, larghezza_razione},
+                          {u"Calorie da Elaborare", u"Text14", &Text14, larghezza_razione},
+                          {u"Protidi", u"Text2", &Text2, larghezza_calorie},
+                          {u"Lipidi", u"Text3", &Text3, larghezza_calorie},
+                          {u"Glucidi", u"Text4", &Text4, larghezza_calorie}};
+  const auto intesta = [&griglia](QStringView scritta, int colonna) {
+    QLabel* t = testa(scritta.toString());
+    t->setWordWrap(true);
+    t->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+    griglia.addWidget(t, 0, colonna);
+  };
+  intesta(u"Minuti/gg", 2);
+  for (std::size_t i = 0; i < Combo14.size(); ++i) {
+    const int riga_giorno = static_cast<int>(i) + 1;
+    const QString& giorno = nomi_giorni[static_cast<qsizetype>(i)];
+    Combo14[i] = lista(nome_indice(u"Combo14", i), voci_minuti, u"Minuti al giorno dell'attività scelta"_s);
+    Combo14[i]->setFixedWidth(58);
+    riga(griglia, riga_giorno, giorno, Combo14[i], 2);
+    TxtAttività[i] = nominato(new QLineEdit(u"-1"_s, this), nome_indice(u"TxtAttività", i));
+    TxtAttività[i]->hide();
+    for (int k = 0; const Colonna& c : colonne) {
+      QLineEdit* campo = (*c.campi)[i] = campo_calcolato(nome_indice(c.nome, i), c.larghezza);
+      campo->setAccessibleName(giorno + u", "_s + c.testa.toString());
+      griglia.addWidget(campo, riga_giorno, 3 + k++, Qt::AlignCenter);
+    }
+  }
+  for (int k = 3; const Colonna& c : colonne) intesta(c.testa, k++);
+}
+
+QWidget* Formattività::disegna_in_uso() {
+  const Cornice c = cornice(u"Percentuali di utilizzo per l'elaborazione"_s);
+  auto* corte = new QRegularExpressionValidator(QRegularExpression(u".{0,4}"_s), this);
+  for (int colonna = 0; const Voce& v : pasti_del_giorno) {
+    const QString nome = v.nome.toString();
+    QLineEdit* campo = Txt[v.pasto] =
+        campo_numero(nome_indice(u"Txt", v.pasto), nome + u", per cento"_s, larghezza_percento);
+    campo->setText(percentuali_solite[v.pasto].toString());
+    campo->setValidator(corte);
+    CmdUP[v.pasto] = freccia(nome_indice(u"CmdUP", v.pasto), nome + u": aumenta di 1"_s, u"freccia_su"_s);
+    CmdDOWN[v.pasto] = freccia(nome_indice(u"CmdDOWN", v.pasto), nome + u": diminuisci di 1"_s, u"freccia_giu"_s);
+    auto* fila = new QHBoxLayout;
+    fila->setSpacing(1);
+    for (QWidget* w : std::initializer_list<QWidget*>{campo, CmdUP[v.pasto], CmdDOWN[v.pasto]}) fila->addWidget(w);
+    c.griglia->addWidget(etichetta_di(nome, campo), 0, colonna);
+    c.griglia->addLayout(fila, 1, colonna++);
+  }
+  CmdUtilizza[1] =
+      pulsante(nome_indice(u"CmdUtilizza", 1), u"Ripristina"_s, u"Clicca per ripristinare le percentuali."_s);
+  c.griglia->addWidget(CmdUtilizza[1], 2, 0, 1, 2, Qt::AlignLeft);
+  c.griglia->setRowStretch(3, 1);
+  return c.box;
+}
+
+QWidget* Formattività::disegna_dal_diario() {
+  const Cornice c = cornice(u"Percentuali ricavate automaticamente dal diario alimentare"_s);
+  for (int colonna = 0; const Voce& v : pasti_del_giorno) {
+    const std::size_t i = 9 - v.pasto;
+    Txt[i] = campo_calcolato(nome_indice(u"Txt", i), larghezza_percento);
+    c.griglia->addWidget(etichetta_di(v.nome.toString(), Txt[i]), 0, colonna);
+    c.griglia->addWidget(Txt[i], 1, colonna++, Qt::AlignLeft);
+  }
+  CmdUtilizza[0] = pulsante(nome_indice(u"CmdUtilizza", 0), u"Utilizza"_s,
+                            u"Clicca per utilizzare i valori del diario alimentare"_s);
+  c.griglia->addWidget(CmdUtilizza[0], 2, 0, 1, 2, Qt::AlignLeft);
+  c.griglia->setRowStretch(3, 1);
+  for (int colonna = 0; colonna < 5; ++colonna) {
+    c.griglia->setColumnMinimumWidth(colonna, larghezza_percento + 2 * larghezza_freccia + 2);
+  }
+  return c.box;
+}
+
+QWidget* Formattività::disegna_grafico() {
+  const Cornice c = cornice({});
+  ritmo_ = new QBarSet(u"%"_s);
+  QStringList nomi;
+  for (const Voce& v : pasti_del_giorno) {
+    *ritmo_ << 0;
+    nomi << v.nome.toString();
+  }
+  ritmo_->setColor(verde);
+  ritmo_->setBorderColor(verde);
+  ritmo_->setLabelColor(inchiostro);
+  auto* barre = new QBarSeries;
+  barre->append(ritmo_);
+  barre->setBarWidth(0.6);
+  barre->setLabelsVisible(true);
+  barre->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
+  auto* grafico = new QChart;
+  grafico->setTitle(u"Ritmo alimentare giornaliero"_s);
+  grafico->setTitleBrush(verde_scuro);
+  grafico->setLocale(QLocale());
+  grafico->setLocalizeNumbers(true);
+  grafico->legend()->hide();
+  grafico->setBackgroundVisible(false);
+  grafico->setMargins({});
+  grafico->layout()->setContentsMargins(0, 0, 0, 0);
+  grafico->addSeries(barre);
+  auto* assi = new QBarCategoryAxis;
+  assi->append(nomi);
+  assi->setGridLineVisible(false);
+  assi->setTruncateLabels(false);
+  scala_ = new QValueAxis;
+  scala_->setLabelsVisible(false);
+  scala_->setLineVisible(false);
+  scala_->setGridLineColor(righe);
+  grafico->addAxis(assi, Qt::AlignBottom);
+  grafico->addAxis(scala_, Qt::AlignLeft);
+  for (QAbstractAxis* asse : std::initializer_list<QAbstractAxis*>{assi, scala_}) barre->attachAxis(asse);
+  MSChart1 = nominato(new QChartView(grafico), u"MSChart1"_s);
+  MSChart1->setBackgroundBrush(fondo);
+  MSChart1->setFrameShape(QFrame::NoFrame);
+  MSChart1->setRenderHint(QPainter::Antialiasing);
+  MSChart1->setFocusPolicy(Qt::NoFocus);
+  QLabel* titolo = testa(u"Ripartizione % delle calorie tra i vari pasti"_s);
+  titolo->setBuddy(MSChart1);
+  c.griglia->addWidget(titolo, 0, 0);
+  c.griglia->addWidget(MSChart1, 1, 0);
+  return c.box;
+}
+
+/// White, or red for a dinner that has nothing left.
+void Formattività::colora_cena(bool positiva) {
+  Txt[cena]->setStyleSheet(positiva ? QString() : u"background: #ff0000; color: #000000;"_s);
+}
