@@ -1,5 +1,6 @@
 #include "assessment/formpond_sezione.h"
 
+#include "assessment/formattivita.h"
 #include "assessment/formpond.h"
 #include "base/numeri.h"
 #include "core/mdiorza.h"
@@ -33,7 +34,10 @@ const std::vector<CampoValore>& piano() {
 }
 
 /// The activities spread the ration over the days: opened and closed unseen, they store it as it now is.
-void riscrivi_attività() {}
+void riscrivi_attività() {
+  schermata<Formattività>();
+  scarica<Formattività>();
+}
 
 void carica_scelta(Formpond& f, const QVariant& scelta) {
   const QString t = scelta.toString();

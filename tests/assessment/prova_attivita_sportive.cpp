@@ -13,10 +13,14 @@ TEST(AttivitàSportive, TheCostCountsInWholeKilocalories) {
     int ora;  // kcal of 60 minutes
   };
   const Caso casi[]{
-      {0, u"Attività marziali", 6.0F, 360},      {9, u"Camminare 1 normalmente (3,2 Km/h) ", 2.93F, 180},
-      {6, u"Bowling", 3.5F, 240},                {19, u"Danza", 6.5F, 360},  // ties go to the even number
-      {25, u"Nuotare lentamente", 6.65F, 420},   {18, u"Correre (molto velocemente - 16 km/h)", 19.8F, 1200},
-      {12, u"Camminare 4 in salita", 13.4F, 780}, {38, u"Tennis singolo", 6.0F, 360},
+      {0, u"Attività marziali", 6.0F, 360},
+      {9, u"Camminare 1 normalmente (3,2 Km/h) ", 2.93F, 180},
+      {6, u"Bowling", 3.5F, 240},
+      {19, u"Danza", 6.5F, 360},  // ties go to the even number
+      {25, u"Nuotare lentamente", 6.65F, 420},
+      {18, u"Correre (molto velocemente - 16 km/h)", 19.8F, 1200},
+      {12, u"Camminare 4 in salita", 13.4F, 780},
+      {38, u"Tennis singolo", 6.0F, 360},
   };
   ASSERT_EQ(attività_sportive().size(), 39U);
   for (const Caso& c : casi) {
