@@ -89,7 +89,6 @@ QWidget* Formattività::disegna_settimana() {
   scelta->addWidget(Immaginesport, 1);
   c.griglia->addLayout(scelta, 0, 0, static_cast<int>(Combo14.size()) + 1, 1);
   c.griglia->setColumnStretch(0, 1);
-  c.griglia->setColumnMinimumWidth(1, 64);
   disegna_giorni(*c.griglia);
   return c.box;
 }
@@ -120,6 +119,7 @@ void Formattività::disegna_giorni(QGridLayout& griglia) {
     Combo14[i]->setFixedWidth(58);
     riga(griglia, riga_giorno, giorno, Combo14[i], 2);
     TxtAttività[i] = nominato(new QLineEdit(u"-1"_s, this), nome_indice(u"TxtAttività", i));
+    TxtAttività[i]->setFocusPolicy(Qt::NoFocus);
     TxtAttività[i]->hide();
     for (int k = 0; const Colonna& c : colonne) {
       QLineEdit* campo = (*c.campi)[i] = campo_calcolato(nome_indice(c.nome, i), c.larghezza);
