@@ -1,6 +1,7 @@
 // How long the program takes to come up and its screens to open and close, and what memory it holds.
 //
 //   banco_schermi [times]      (15 by default)
+#include "assessment/formattivita.h"
 #include "base/archivio.h"
 #include "base/file.h"
 #include "core/aspetto.h"
@@ -79,6 +80,7 @@ void schermi(int volte) {
   mostra<Mdiorza>();
   apri_e_chiudi<Formanag>("master data opens", "master data closes", volte);
   apri_e_chiudi<Formdiario>("diary opens", "diary closes", volte);
+  apri_e_chiudi<Formattività>("activities open", "activities close", volte);
   apri_e_chiudi<Formelabora>("elaboration opens", "elaboration closes", volte);
   mostra<Formanag>();
   std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());

@@ -56,6 +56,7 @@ class Formattività : public QWidget {
   void disegna();
   QWidget* disegna_settimana();
   void disegna_giorni(QGridLayout& griglia);
+  void disegna_minuti(QGridLayout& griglia, std::size_t giorno);
   QWidget* disegna_in_uso();
   QWidget* disegna_dal_diario();
   QWidget* disegna_grafico();

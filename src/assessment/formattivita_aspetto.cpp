@@ -31,7 +31,8 @@ struct Voce {
 constexpr Voce pasti_del_giorno[]{
     {colazione, u"Colazione"}, {spuntino, u"Spuntino"}, {pranzo, u"Pranzo"}, {merenda, u"Merenda"}, {cena, u"Cena"}};
 
-constexpr QColor inchiostro{0x1f, 0x2a, 0x30}, verde{0x4f, 0xa0, 0x86}, verde_scuro{0x14, 0x61, 0x4b}, righe{0xdd, 0xe4, 0xe0}, fondo{0xf7, 0xf9, 0xf8};
+constexpr QColor inchiostro{0x1f, 0x2a, 0x30}, verde{0x4f, 0xa0, 0x86}, verde_scuro{0x14, 0x61, 0x4b};
+constexpr QColor linee{0xdd, 0xe4, 0xe0}, fondo{0xf7, 0xf9, 0xf8};  // of the grid, of a frame
 constexpr int larghezza_calorie = 52, larghezza_razione = 68, larghezza_percento = 34, larghezza_freccia = 18;
 
 QComboBox* lista(const QString& nome, const QStringList& voci, const QString& suggerimento) {
@@ -45,10 +46,56 @@ QComboBox* lista(const QString& nome, const QStringList& voci, const QString& su
 QPushButton* freccia(const QString& nome, const QString& suggerimento, const QString& nome_icona) {
   QPushButton* b = pulsante(nome, {}, suggerimento, nome_icona);
   b->setAccessibleName(suggerimento);
-  b->setStyleSheet(u"padding: 0; min-height: 0;"_s);
+  b->setProperty("ruolo", u"freccia"_s);
   b->setIconSize({7, 7});
   b->setFixedSize(larghezza_freccia, 21);
   return b;
+}
+
+QLabel* testa_a_capo(QStringView scritta) {
+  QLabel* t = testa(scritta.toString());
+  t->setWordWrap(true);
+  t->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+  return t;
+}
+
+/// The bars with their values at the ends.
+QBarSeries* barre(QBarSet* valori) {
+  valori->setColor(verde);
+  valori->setBorderColor(verde);
+  valori->setLabelColor(inchiostro);
+  auto* serie = new QBarSeries;
+  serie->append(valori);
+  serie->setBarWidth(0.6);
+  serie->setLabelsVisible(true);
+  serie->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
+  return serie;
+}
+
+QChart* grafico_nudo(const QString& titolo) {
+  auto* grafico = new QChart;
+  grafico->setTitle(titolo);
+  grafico->setTitleBrush(verde_scuro);
+  grafico->setLocale(QLocale());
+  grafico->setLocalizeNumbers(true);
+  grafico->legend()->hide();
+  grafico->setBackgroundVisible(false);
+  grafico->setMargins({});
+  grafico->layout()->setContentsMargins(0, 0, 0, 0);
+  return grafico;
+}
+
+void metti_assi(QChart& grafico, QBarSeries& serie, const QStringList& nomi, QValueAxis* scala) {
+  auto* categorie = new QBarCategoryAxis;
+  categorie->append(nomi);
+  categorie->setGridLineVisible(false);
+  categorie->setTruncateLabels(false);
+  scala->setLabelsVisible(false);
+  scala->setLineVisible(false);
+  scala->setGridLineColor(linee);
+  grafico.addAxis(categorie, Qt::AlignBottom);
+  grafico.addAxis(scala, Qt::AlignLeft);
+  for (QAbstractAxis* asse : std::initializer_list<QAbstractAxis*>{categorie, scala}) serie.attachAxis(asse);
 }
 
 }  // namespace
@@ -105,29 +152,26 @@ void Formattività::disegna_giorni(QGridLayout& griglia) {
                           {u"Protidi", u"Text2", &Text2, larghezza_calorie},
                           {u"Lipidi", u"Text3", &Text3, larghezza_calorie},
                           {u"Glucidi", u"Text4", &Text4, larghezza_calorie}};
-  const auto intesta = [&griglia](QStringView scritta, int colonna) {
-    QLabel* t = testa(scritta.toString());
-    t->setWordWrap(true);
-    t->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
-    griglia.addWidget(t, 0, colonna);
-  };
-  intesta(u"Minuti/gg", 2);
-  for (std::size_t i = 0; i < Combo14.size(); ++i) {
-    const int riga_giorno = static_cast<int>(i) + 1;
-    const QString& giorno = nomi_giorni[static_cast<qsizetype>(i)];
-    Combo14[i] = lista(nome_indice(u"Combo14", i), voci_minuti, u"Minuti al giorno dell'attività scelta"_s);
-    Combo14[i]->setFixedWidth(58);
-    riga(griglia, riga_giorno, giorno, Combo14[i], 2);
-    TxtAttività[i] = nominato(new QLineEdit(u"-1"_s, this), nome_indice(u"TxtAttività", i));
-    TxtAttività[i]->setFocusPolicy(Qt::NoFocus);
-    TxtAttività[i]->hide();
-    for (int k = 0; const Colonna& c : colonne) {
+  for (std::size_t i = 0; i < Combo14.size(); ++i) disegna_minuti(griglia, i);
+  griglia.addWidget(testa_a_capo(u"Minuti/gg"), 0, 2);
+  for (int posto = 3; const Colonna& c : colonne) {
+    griglia.addWidget(testa_a_capo(c.testa), 0, posto);
+    for (std::size_t i = 0; i < c.campi->size(); ++i) {
       QLineEdit* campo = (*c.campi)[i] = campo_calcolato(nome_indice(c.nome, i), c.larghezza);
-      campo->setAccessibleName(giorno + u", "_s + c.testa.toString());
-      griglia.addWidget(campo, riga_giorno, 3 + k++, Qt::AlignCenter);
+      campo->setAccessibleName(nomi_giorni[static_cast<qsizetype>(i)] + u", "_s + c.testa.toString());
+      griglia.addWidget(campo, static_cast<int>(i) + 1, posto, Qt::AlignCenter);
     }
+    ++posto;
   }
-  for (int k = 3; const Colonna& c : colonne) intesta(c.testa, k++);
+}
+
+void Formattività::disegna_minuti(QGridLayout& griglia, std::size_t giorno) {
+  Combo14[giorno] = lista(nome_indice(u"Combo14", giorno), voci_minuti, u"Minuti al giorno dell'attività scelta"_s);
+  Combo14[giorno]->setFixedWidth(58);
+  riga(griglia, static_cast<int>(giorno) + 1, nomi_giorni[static_cast<qsizetype>(giorno)], Combo14[giorno], 2);
+  TxtAttività[giorno] = nominato(new QLineEdit(u"-1"_s, this), nome_indice(u"TxtAttività", giorno));
+  TxtAttività[giorno]->setFocusPolicy(Qt::NoFocus);
+  TxtAttività[giorno]->hide();
 }
 
 QWidget* Formattività::disegna_in_uso() {
@@ -180,43 +224,18 @@ QWidget* Formattività::disegna_grafico() {
     *ritmo_ << 0;
     nomi << v.nome.toString();
   }
-  ritmo_->setColor(verde);
-  ritmo_->setBorderColor(verde);
-  ritmo_->setLabelColor(inchiostro);
-  auto* barre = new QBarSeries;
-  barre->append(ritmo_);
-  barre->setBarWidth(0.6);
-  barre->setLabelsVisible(true);
-  barre->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
-  auto* grafico = new QChart;
-  grafico->setTitle(u"Ritmo alimentare giornaliero"_s);
-  grafico->setTitleBrush(verde_scuro);
-  grafico->setLocale(QLocale());
-  grafico->setLocalizeNumbers(true);
-  grafico->legend()->hide();
-  grafico->setBackgroundVisible(false);
-  grafico->setMargins({});
-  grafico->layout()->setContentsMargins(0, 0, 0, 0);
-  grafico->addSeries(barre);
-  auto* assi = new QBarCategoryAxis;
-  assi->append(nomi);
-  assi->setGridLineVisible(false);
-  assi->setTruncateLabels(false);
   scala_ = new QValueAxis;
-  scala_->setLabelsVisible(false);
-  scala_->setLineVisible(false);
-  scala_->setGridLineColor(righe);
-  grafico->addAxis(assi, Qt::AlignBottom);
-  grafico->addAxis(scala_, Qt::AlignLeft);
-  for (QAbstractAxis* asse : std::initializer_list<QAbstractAxis*>{assi, scala_}) barre->attachAxis(asse);
+  QBarSeries* serie = barre(ritmo_);
+  QChart* grafico = grafico_nudo(u"Ritmo alimentare giornaliero"_s);
+  grafico->addSeries(serie);
+  metti_assi(*grafico, *serie, nomi, scala_);
   MSChart1 = nominato(new QChartView(grafico), u"MSChart1"_s);
   MSChart1->setBackgroundBrush(fondo);
   MSChart1->setFrameShape(QFrame::NoFrame);
   MSChart1->setRenderHint(QPainter::Antialiasing);
   MSChart1->setFocusPolicy(Qt::NoFocus);
-  QLabel* titolo = testa(u"Ripartizione % delle calorie tra i vari pasti"_s);
-  titolo->setBuddy(MSChart1);
-  c.griglia->addWidget(titolo, 0, 0);
+  MSChart1->setAccessibleName(grafico->title());
+  c.griglia->addWidget(testa(u"Ripartizione % delle calorie tra i vari pasti"_s), 0, 0);
   c.griglia->addWidget(MSChart1, 1, 0);
   return c.box;
 }

