@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTabBar>
 
 using namespace Qt::StringLiterals;
 
@@ -119,6 +120,17 @@ QComboBox* lista_fissa(QStringView voci) {
 void scrivi_da_capo(QLineEdit& campo, const QString& testo) {
   campo.setText(testo);
   campo.home(false);
+}
+
+QTabBar* lettere(const QString& nome) {
+  auto* s = nominato(new QTabBar, nome, u"Iniziale del cognome"_s);
+  for (char16_t c = u'A'; c <= u'Z'; ++c) s->addTab(QString(c));
+  s->setDrawBase(false);
+  s->setExpanding(false);
+  s->setUsesScrollButtons(false);
+  s->setElideMode(Qt::ElideNone);
+  s->setStyleSheet(u"QTabBar::tab { padding: 3px 7px; margin-right: 1px; min-width: 10px; }"_s);
+  return s;
 }
 
 QHBoxLayout* barra(const QList<QWidget*>& a_sinistra, const QList<QWidget*>& a_destra) {

@@ -11,6 +11,7 @@
 
 class QApplication;
 class QComboBox;
+class QTabBar;
 
 inline constexpr int larghezza_schermo = 785;  // pixels of a stage screen
 inline constexpr int altezza_schermo = 480;
@@ -71,6 +72,9 @@ QComboBox* lista_fissa(QStringView voci);
 
 /// Writes a text that may be longer than its field, and shows it from its beginning.
 void scrivi_da_capo(QLineEdit& campo, const QString& testo);
+
+/// The letters A to Z as tabs, as narrow as they go.
+QTabBar* lettere(const QString& nome);
 
 /// A bar with some controls at its left end and others at its right end.
 QHBoxLayout* barra(const QList<QWidget*>& a_sinistra, const QList<QWidget*>& a_destra);

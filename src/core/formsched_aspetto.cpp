@@ -33,14 +33,8 @@ constexpr Comando comandi[]{
 };
 
 QTabBar* strisce() {
-  auto* s = nominato(new QTabBar, u"SSTabschedario"_s, u"Iniziale del cognome"_s);
-  for (char16_t c = u'A'; c <= u'Z'; ++c) s->addTab(QString(c));
+  QTabBar* s = lettere(u"SSTabschedario"_s);
   s->addTab(u"TUTTI"_s);
-  s->setDrawBase(false);
-  s->setExpanding(false);
-  s->setUsesScrollButtons(false);
-  s->setElideMode(Qt::ElideNone);
-  s->setStyleSheet(u"QTabBar::tab { padding: 3px 7px; margin-right: 1px; min-width: 10px; }"_s);
   s->setCurrentIndex(scheda_tutti);
   return s;
 }

@@ -14,6 +14,8 @@
 #include "core/salvataggio.h"
 #include "core/sessione.h"
 #include "core/stadi.h"
+#include "office/formagenda.h"
+#include "office/formrubrica.h"
 
 #include <QCloseEvent>
 #include <QFile>
@@ -124,6 +126,8 @@ void Mdiorza::collega_menu() {
   al_comando(afc, richiama_da_menu);
   al_comando(menuchiudi, chiudi_da_menu);
   al_comando(uscita, [this] { chiedi_uscita(); });
+  al_comando(menuag, mostra<Formagenda>);
+  al_comando(menurubr, mostra<Formrubrica>);
   al_comando(i_e, mostra<Formi_e>);
   al_comando(impstamp, [] { esterno().imposta_stampante(stampante()); });
   al_comando(menuaiuto, [this] { apriGuida(); });
@@ -136,6 +140,8 @@ void Mdiorza::collega_barra() {
   for (const Stadio& s : stadi()) al_clic(cmdsopra[s.pulsante], [&s] { salta_a(s); });
   al_clic(cmdsopra[9], mostra<Formi_e>);
   al_clic(cmdsopra[10], [this] { apri_stampe(); });
+  al_clic(cmdsopra[11], mostra<Formagenda>);
+  al_clic(cmdsopra[12], mostra<Formrubrica>);
   al_clic(cmdsopra[13], [this] { apriGuida(); });
   al_clic(cmdsopra[14], [this] { chiedi_uscita(); });
 }
@@ -161,6 +167,7 @@ void Mdiorza::apri_documento(const QString& nome) {
 
 bool Mdiorza::chiedi_uscita() {
   if (!domanda(u"Sei sicuro di voler uscire dal programma ?"_s, u"Orzaline control"_s)) return false;
+  scarica<Formagenda>();  // its day is kept
   elimina_dati_tmp();
   QCoreApplication::exit();
   return true;

@@ -16,16 +16,15 @@ namespace {
 struct Attrezzo {
   std::size_t indice;
   QStringView suggerimento;
-  bool attivo;
 };
-constexpr Attrezzo archivio{0, u"Apri lo schedario nominativi", true};
+constexpr Attrezzo archivio{0, u"Apri lo schedario nominativi"};
 constexpr Attrezzo dopo_gli_stadi[]{
-    {9, u"Importa/Esporta dati cliente", true},
-    {10, u"Elenco tipi di stampe possibili", true},
-    {11, u"Agenda", false},
-    {12, u"Rubrica telefonica dei pazienti memorizzati", false},
-    {13, u"Guida in linea contestuale", true},
-    {14, u"Esci dal programma", true},
+    {9, u"Importa/Esporta dati cliente"},
+    {10, u"Elenco tipi di stampe possibili"},
+    {11, u"Agenda"},
+    {12, u"Rubrica telefonica dei pazienti memorizzati"},
+    {13, u"Guida in linea contestuale"},
+    {14, u"Esci dal programma"},
 };
 constexpr std::size_t inizio_di_gruppo[]{9, 11, 13};  // a line stands before these
 
@@ -74,8 +73,8 @@ void Mdiorza::disegna_menu() {
   menuchiudi = voce(file, u"menuchiudi"_s, u"Chiudi"_s);
   uscita = voce(file, u"uscita"_s, u"&Uscita"_s);
   QMenu* ut = nominato(menuBar()->addMenu(u"&Utilità"_s), u"ut"_s);
-  menuag = voce(ut, u"menuag"_s, u"Agenda"_s, false);
-  menurubr = voce(ut, u"menurubr"_s, u"Rubrica"_s, false);
+  menuag = voce(ut, u"menuag"_s, u"Agenda"_s);
+  menurubr = voce(ut, u"menurubr"_s, u"Rubrica"_s);
   i_e = voce(ut, u"i_e"_s, u"Importa / Esporta cliente..."_s);
   ut->addSeparator()->setObjectName(u"s2"_s);
   impstamp = voce(ut, u"impstamp"_s, u"Imposta stampante"_s);
@@ -102,7 +101,6 @@ void Mdiorza::disegna_barra() {
   for (const Attrezzo& a : dopo_gli_stadi) {
     if (std::ranges::count(inizio_di_gruppo, a.indice) > 0) b->addSeparator();
     aggiungi(a.indice, a.suggerimento);
-    cmdsopra[a.indice]->setEnabled(a.attivo);
   }
 }
 

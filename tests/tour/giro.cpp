@@ -69,6 +69,7 @@ void giro() {
   gestisci_errori_con([](const std::exception& e) { pretendi(false, e.what()); });
   caso_in_uso() = caso_con_seme(2026);
   entra();
+  ufficio();
   vita_di_un_cliente(esportati.path());
   importa_esempi(QDir(lavoro.path()).filePath(u"esempi"_s));
   for (const QString& cognome : {u"BIANCHI"_s, u"FERRI"_s, u"MORETTI"_s}) settimana_di_dieta(cognome);

@@ -14,3 +14,6 @@ void scelta_degli_alimenti();
 
 /// One week of diet for a client of the archive: elaborated, reviewed, changed, saved.
 void settimana_di_dieta(const QString& cognome);
+
+/// Address book and agenda.
+void ufficio();
