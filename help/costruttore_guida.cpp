@@ -8,6 +8,7 @@
 #include <QSaveFile>
 #include <QtEndian>
 #include <cstdio>
+#include <numeric>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -15,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int larghezza = 9638;  // twips of text on an A4 page with margins of 2 cm
-constexpr int twip_per_pixel = 15;
+constexpr int twip_per_pixel = 15, twip_per_lettera = 112, twip_per_cella = 190;
 
 /// What begins a document, up to its title; fonts, colours and styles that the paragraphs below name by number.
 constexpr const char* apertura =
@@ -97,15 +98,16 @@ QByteArray figura(const QByteArray& png) {
 
 class Traduttore {
  public:
-  explicit Traduttore(const QString& file) : cartella(QFileInfo(file).path()), nome(QFileInfo(file).fileName()) {
-    righe = QString::fromUtf8(contenuto(file)).split(u'\n');
-  }
+  explicit Traduttore(const QFileInfo& file)
+      : cartella(file.path()),
+        nome(file.fileName()),
+        righe(QString::fromUtf8(contenuto(file.filePath())).split(u'\n')) {}
 
   QByteArray traduci() {
     try {
       if (!righe[0].startsWith(u"# "_s)) rifiuta(u"the title comes first"_s);
       const QByteArray titolo = senza_stile(righe[0].mid(2));
-      while (!finito()) blocco();
+      while (n < righe.size()) blocco();
       return apertura + titolo + pagina + titolo + "  -  \\chpgn\\par}\n" + corpo + "}\n";
     } catch (const std::exception& e) {
       rifiuta(u"%1:%2: %3"_s.arg(nome).arg(n + 1).arg(QString::fromUtf8(e.what())));
@@ -113,8 +115,7 @@ class Traduttore {
   }
 
  private:
-  bool finito() const { return n >= righe.size(); }
-  QString qui() const { return finito() ? QString() : righe[n]; }
+  QString qui() const { return righe.value(n); }
 
   void paragrafo(const char* stile, const QByteArray& testo) {
     corpo += QByteArray("\\pard\\plain") + stile + testo + "\\par\n";
@@ -172,12 +173,10 @@ class Traduttore {
   static QStringList celle(const QString& riga) {
     QStringList l = riga.trimmed().split(u'|');
     if (l.size() < 3 || !l.last().isEmpty()) rifiuta(u"a row of a table begins and ends with |"_s);
-    l = l.mid(1, l.size() - 2);
     for (QString& cella : l) cella = cella.trimmed();
-    return l;
+    return l.mid(1, l.size() - 2);
   }
 
-  /// The columns share the width by their longest text, so that short ones stay narrow and long ones wrap.
   void tabella() {
     static const QRegularExpression linea(u"^:?-{3,}:?$"_s);
     QList<QStringList> tutte;
@@ -187,23 +186,34 @@ class Traduttore {
       if ((n == prima + 1) != linea.match(c[0]).hasMatch()) rifiuta(u"the second row, and only it, is a line"_s);
       if (n != prima + 1) tutte << c;
     }
-    QList<int> lunghe(tutte[0].size(), 0);
-    for (const QStringList& riga : tutte)
-      for (qsizetype i = 0; i < riga.size(); ++i)
-        lunghe[i] = std::max(lunghe[i], std::clamp(static_cast<int>(riga[i].size()), 9, 60));
-    for (const QStringList& riga : tutte) riga_tabella(riga, lunghe, &riga == &tutte[0]);
+    const QList<int> margini = colonne(tutte);
+    for (const QStringList& riga : tutte) riga_tabella(riga, margini, &riga == &tutte[0]);
     corpo += "\\pard\\plain\\s0\\sa80\\fs10\\par\n";
   }
 
-  void riga_tabella(const QStringList& testi, const QList<int>& lunghe, bool testa) {
-    int tutto = 0, fin_qui = 0;
-    for (const int l : lunghe) tutto += l;
+  /// The right edges of the columns: each holds its longest word, and long texts share what is left.
+  static QList<int> colonne(const QList<QStringList>& tutte) {
+    QList<int> larghe(tutte[0].size(), 0), lunghe(tutte[0].size(), 1);
+    for (const QStringList& riga : tutte) {
+      for (qsizetype i = 0; i < riga.size(); ++i) {
+        lunghe[i] = std::max(lunghe[i], std::min(static_cast<int>(riga[i].size()), 70));
+        for (const QString& parola : riga[i].split(u' '))
+          larghe[i] = std::max(larghe[i], twip_per_cella + twip_per_lettera * static_cast<int>(parola.size()));
+      }
+    }
+    const int resto = larghezza - std::reduce(larghe.begin(), larghe.end());
+    const int somma = std::reduce(lunghe.begin(), lunghe.end());
+    if (resto < 0) rifiuta(u"a table that is too wide"_s);
+    for (int i = 0, margine = 0; i < larghe.size(); ++i) larghe[i] = margine += larghe[i] + resto * lunghe[i] / somma;
+    return larghe;
+  }
+
+  void riga_tabella(const QStringList& testi, const QList<int>& margini, bool testa) {
     corpo += QByteArray("\\trowd\\trgaph80\\trleft0\\trkeep") + (testa ? "\\trhdr" : "");
-    for (const int l : lunghe) {
+    for (const int margine : margini) {
       for (const char* lato : {"t", "l", "b", "r"})
         corpo += QByteArray("\\clbrdr") + lato + "\\brdrs\\brdrw10\\brdrcf2";
-      corpo +=
-          QByteArray(testa ? "\\clcbpat3" : "") + "\\cellx" + QByteArray::number(larghezza * (fin_qui += l) / tutto);
+      corpo += QByteArray(testa ? "\\clcbpat3" : "") + "\\cellx" + QByteArray::number(margine);
     }
     corpo += '\n';
     for (const QString& t : testi)
@@ -232,7 +242,7 @@ int main(int argc, char** argv) {
     const QDir programma(QFile::decodeName(argv[2]));
     for (const QFileInfo& f : QDir(QFile::decodeName(argv[1])).entryInfoList({u"*.md"_s}, QDir::Files)) {
       const QString nome = f.completeBaseName() + u".doc"_s;
-      scrivi(programma.filePath(nome[0].isDigit() ? u"help/"_s + nome : nome), Traduttore(f.filePath()).traduci());
+      scrivi(programma.filePath(nome[0].isDigit() ? u"help/"_s + nome : nome), Traduttore(f).traduci());
     }
     return 0;
   } catch (const std::exception& e) {
