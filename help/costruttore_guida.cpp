@@ -55,12 +55,6 @@ QByteArray segno(QChar c) {
   return "\\u" + QByteArray::number(static_cast<qint16>(c.unicode())) + '?';
 }
 
-QByteArray senza_stile(const QString& testo) {
-  QByteArray b;
-  for (const QChar c : testo) b += segno(c);
-  return b;
-}
-
 /// A text with its bold and italic parts; a backslash takes the meaning from the sign behind it.
 QByteArray scritto(const QString& testo) {
   QByteArray b;
@@ -86,7 +80,6 @@ QByteArray figura(const QByteArray& png) {
   if (!png.startsWith("\x89PNG\r\n") || png.size() < 24) rifiuta(u"not a PNG picture"_s);
   const auto largo = qFromBigEndian<quint32>(png.constData() + 16),
              alto = qFromBigEndian<quint32>(png.constData() + 20);
-  if (largo == 0) rifiuta(u"an empty picture"_s);
   const double scala = std::min(double(twip_per_pixel), larghezza / double(largo));
   const auto numero = [](double n) { return QByteArray::number(qRound(n)); };
   QByteArray b = "{\\pict\\pngblip\\picw" + numero(largo) + "\\pich" + numero(alto) + "\\picwgoal" +
@@ -106,7 +99,7 @@ class Traduttore {
   QByteArray traduci() {
     try {
       if (!righe[0].startsWith(u"# "_s)) rifiuta(u"the title comes first"_s);
-      const QByteArray titolo = senza_stile(righe[0].mid(2));
+      const QByteArray titolo = scritto(righe[0].mid(2));
       while (n < righe.size()) blocco();
       return apertura + titolo + pagina + titolo + "  -  \\chpgn\\par}\n" + corpo + "}\n";
     } catch (const std::exception& e) {
