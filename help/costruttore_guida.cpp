@@ -19,26 +19,25 @@ constexpr int larghezza = 9638;  // twips of text on an A4 page with margins of 
 constexpr int twip_per_pixel = 15, twip_per_lettera = 112, twip_per_cella = 190;
 
 /// What begins a document, up to its title; fonts, colours and styles that the paragraphs below name by number.
-constexpr const char* apertura =
-    "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1040\n"
-    "{\\fonttbl{\\f0\\fswiss\\fcharset0 Arial;}}\n"
-    "{\\colortbl;\\red31\\green94\\blue72;\\red110\\green120\\blue115;\\red226\\green236\\blue230;}\n"
-    "{\\stylesheet{\\s0\\f0\\fs21 Normal;}{\\s1\\sbasedon0\\snext0\\f0\\fs36\\b heading 1;}"
-    "{\\s2\\sbasedon0\\snext0\\f0\\fs27\\b heading 2;}{\\s3\\sbasedon0\\snext0\\f0\\fs22\\b heading 3;}}\n"
-    "{\\info{\\title ";
-constexpr const char* pagina =
-    "}}\n\\paperw11906\\paperh16838\\margl1134\\margr1134\\margt1134\\margb1134\n"
-    "{\\footer\\pard\\plain\\qc\\f0\\fs16\\cf2 ";
-constexpr const char* stili_titolo[] = {"\\s1\\outlinelevel0\\keepn\\sa240\\f0\\fs36\\b\\cf1 ",
-                                        "\\s2\\outlinelevel1\\keepn\\sb320\\sa120\\f0\\fs27\\b\\cf1 ",
-                                        "\\s3\\outlinelevel2\\keepn\\sb200\\sa80\\f0\\fs22\\b "};
-constexpr const char* stile_testo = "\\s0\\sa140\\sl264\\slmult1\\f0\\fs21 ";
+constexpr const char* apertura = R"({\rtf1\ansi\ansicpg1252\uc1\deff0\deflang1040
+{\fonttbl{\f0\fswiss\fcharset0 Arial;}}
+{\colortbl;\red31\green94\blue72;\red110\green120\blue115;\red226\green236\blue230;}
+{\stylesheet{\s0\f0\fs21 Normal;}{\s1\sbasedon0\snext0\f0\fs36\b heading 1;}
+{\s2\sbasedon0\snext0\f0\fs27\b heading 2;}{\s3\sbasedon0\snext0\f0\fs22\b heading 3;}}
+{\info{\title )";
+constexpr const char* pagina = R"(}}
+\paperw11906\paperh16838\margl1134\margr1134\margt1134\margb1134
+{\footer\pard\plain\qc\f0\fs16\cf2 )";
+constexpr const char* stili_titolo[] = {R"(\s1\outlinelevel0\keepn\sa240\f0\fs36\b\cf1 )",
+                                        R"(\s2\outlinelevel1\keepn\sb320\sa120\f0\fs27\b\cf1 )",
+                                        R"(\s3\outlinelevel2\keepn\sb200\sa80\f0\fs22\b )"};
+constexpr const char* stile_testo = R"(\s0\sa140\sl264\slmult1\f0\fs21 )";
 /// Signs and numbers of lists are text: every reader shows them alike, and a list never counts on from another.
-constexpr const char* stile_elenco = "\\s0\\fi-340\\li624\\tx624\\sa80\\sl264\\slmult1\\f0\\fs21 ";
-constexpr const char* stile_nota = "\\s0\\li284\\ri284\\brdrl\\brdrs\\brdrw45\\brsp120\\brdrcf1\\sa160\\f0\\fs21 ";
-constexpr const char* stile_figura = "\\s0\\qc\\keepn\\sb120\\sa60\\f0\\fs21 ";
-constexpr const char* stile_didascalia = "\\s0\\qc\\sa200\\f0\\fs18\\i\\cf2 ";
-constexpr const char* stile_cella = "\\intbl\\sb50\\sa50\\f0\\fs19 ";
+constexpr const char* stile_elenco = R"(\s0\fi-340\li624\tx624\sa80\sl264\slmult1\f0\fs21 )";
+constexpr const char* stile_nota = R"(\s0\li284\ri284\brdrl\brdrs\brdrw45\brsp120\brdrcf1\sa160\f0\fs21 )";
+constexpr const char* stile_figura = R"(\s0\qc\keepn\sb120\sa60\f0\fs21 )";
+constexpr const char* stile_didascalia = R"(\s0\qc\sa200\f0\fs18\i\cf2 )";
+constexpr const char* stile_cella = R"(\intbl\sb50\sa50\f0\fs19 )";
 
 [[noreturn]] void rifiuta(const QString& cosa) { throw std::runtime_error(cosa.toStdString()); }
 
@@ -82,7 +81,7 @@ QByteArray figura(const QByteArray& png) {
              alto = qFromBigEndian<quint32>(png.constData() + 20);
   const double scala = std::min(double(twip_per_pixel), larghezza / double(largo));
   const auto numero = [](double n) { return QByteArray::number(qRound(n)); };
-  QByteArray b = "{\\pict\\pngblip\\picw" + numero(largo) + "\\pich" + numero(alto) + "\\picwgoal" +
+  QByteArray b = R"({\pict\pngblip\picw)" + numero(largo) + "\\pich" + numero(alto) + "\\picwgoal" +
                  numero(largo * scala) + "\\pichgoal" + numero(alto * scala);
   const QByteArray cifre = png.toHex();
   for (qsizetype i = 0; i < cifre.size(); i += 128) b += '\n' + cifre.mid(i, 128);
@@ -180,7 +179,7 @@ class Traduttore {
       if (n != prima + 1) tutte << c;
     }
     const QList<int> margini = colonne(tutte);
-    for (const QStringList& riga : tutte) riga_tabella(riga, margini, &riga == &tutte[0]);
+    for (const QStringList& riga : tutte) riga_tabella(riga, margini, &riga == tutte.data());
     corpo += "\\pard\\plain\\s0\\sa80\\fs10\\par\n";
   }
 
@@ -202,10 +201,10 @@ class Traduttore {
   }
 
   void riga_tabella(const QStringList& testi, const QList<int>& margini, bool testa) {
-    corpo += QByteArray("\\trowd\\trgaph80\\trleft0\\trkeep") + (testa ? "\\trhdr" : "");
+    corpo += QByteArray(R"(\trowd\trgaph80\trleft0\trkeep)") + (testa ? "\\trhdr" : "");
     for (const int margine : margini) {
       for (const char* lato : {"t", "l", "b", "r"})
-        corpo += QByteArray("\\clbrdr") + lato + "\\brdrs\\brdrw10\\brdrcf2";
+        corpo += QByteArray("\\clbrdr") + lato + R"(\brdrs\brdrw10\brdrcf2)";
       corpo += QByteArray(testa ? "\\clcbpat3" : "") + "\\cellx" + QByteArray::number(margine);
     }
     corpo += '\n';
