@@ -118,7 +118,9 @@ void Mdiorza::collega_regole() {
   al_clic(Command2[1], salvataggio_generale);
   // Only a child in front counts: the switch to another program or to a box is no change of screen.
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* finestra) {
-    if (finestra && !ospitando_) esegui_regola([&] { porta_davanti(finestra->widget()); });
+    if (finestra && !ospitando_ && figlie_.contains(finestra->widget())) {  // not one that is closing
+      esegui_regola([&] { porta_davanti(finestra->widget()); });
+    }
   });
 }
 

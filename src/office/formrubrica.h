@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
-#include <QStackedLayout>
+#include <QStackedWidget>
 #include <QStringListModel>
 #include <QTabBar>
 #include <QTabWidget>
@@ -61,7 +61,7 @@ class Formrubrica : public QWidget {
 
   std::optional<Archivio> rubrica_;
   std::vector<Nominativo> elenco_;
-  QStackedLayout* viste_{};
+  QStackedWidget* viste_{};
   std::array<QList<QLineEdit*>, schede> caselle_;  // in the order of the fields
   QChar lettera_ = u'a';                           // the last one listed
   std::optional<qint64> in_modifica_;              // none while the person is new

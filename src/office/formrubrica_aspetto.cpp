@@ -74,10 +74,10 @@ void Formrubrica::disegna() {
   setObjectName(u"Formrubrica"_s);
   setWindowTitle(u"Rubrica Telefonica"_s);
   const Cornice c = cornice(windowTitle());
-  viste_ = new QStackedLayout;
+  viste_ = new QStackedWidget;
   viste_->addWidget(disegna_elenco());
   viste_->addWidget(disegna_dettaglio());
-  c.griglia->addLayout(viste_, 0, 0);
+  c.griglia->addWidget(viste_, 0, 0);
   auto* fuori = new QVBoxLayout(this);
   fuori->setContentsMargins(4, 4, 4, 6);
   fuori->addWidget(c.box);

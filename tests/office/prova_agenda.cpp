@@ -34,10 +34,9 @@ struct ProvaAgenda : Ambiente {
   }
   /// Types into a slot and leaves the box open.
   static void digita(int riga, const QString& testo) {
-    QTest::qWait(1);  // the box of the last slot goes
     f().DBGrid1->setCurrentCell(riga, 1);
     QTest::keyClicks(f().DBGrid1, testo.left(1));
-    QTest::keyClicks(f().DBGrid1->viewport()->findChild<QLineEdit*>(), testo.mid(1));
+    QTest::keyClicks(f().DBGrid1->viewport()->findChildren<QLineEdit*>().last(), testo.mid(1));
   }
   /// The slots of the grid that hold a text.
   static QString pagina() {
@@ -101,7 +100,7 @@ TEST_F(ProvaAgenda, EachDayHasItsOwnAppointments) {
   f().Calendar1->setSelectedDate(QDate(2026, 3, 9));
   EXPECT_EQ(pagina(), u"10:00 primo"_s);
   digita(20, u" "_s);
-  QTest::keyClick(f().DBGrid1->viewport()->findChild<QLineEdit*>(), Qt::Key_Backspace);
+  QTest::keyClick(f().DBGrid1->viewport()->findChildren<QLineEdit*>().last(), Qt::Key_Backspace);
   f().Calendar1->setSelectedDate(QDate(2031, 12, 5));
   EXPECT_EQ(pagina(), u"00:00 lontano"_s);
   EXPECT_EQ(diario(), u"05/12/2031 00:00 lontano"_s) << "an empty day leaves no row";

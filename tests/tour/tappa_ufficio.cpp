@@ -31,10 +31,9 @@ void agenda() {
   clic(m.cmdsopra[11]);
   auto& f = schermata<Formagenda>();
   const auto segna = [&f](int riga, const QString& testo) {
-    QTest::qWait(1);  // the box of the last slot goes
     f.DBGrid1->setCurrentCell(riga, 1);
     QTest::keyClicks(f.DBGrid1, testo.left(1));
-    QTest::keyClicks(f.DBGrid1->viewport()->findChild<QLineEdit*>(), testo.mid(1));
+    QTest::keyClicks(f.DBGrid1->viewport()->findChildren<QLineEdit*>().last(), testo.mid(1));
   };
   segna(18, u"Antonelli: prima visita, portare gli esami del sangue"_s);
   segna(21, u"Bianchi, controllo del peso"_s);
