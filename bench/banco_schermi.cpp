@@ -13,6 +13,8 @@
 #include "diary/formdiario.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
+#include "office/formagenda.h"
+#include "office/formrubrica.h"
 
 #include <QDir>
 #include <QFile>
@@ -82,6 +84,8 @@ void schermi(int volte) {
   apri_e_chiudi<Formdiario>("diary opens", "diary closes", volte);
   apri_e_chiudi<Formattività>("activities open", "activities close", volte);
   apri_e_chiudi<Formelabora>("elaboration opens", "elaboration closes", volte);
+  apri_e_chiudi<Formrubrica>("address book opens", "address book closes", volte);
+  apri_e_chiudi<Formagenda>("agenda opens", "agenda closes", volte);
   mostra<Formanag>();
   std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());
   abbandona_schermate();
