@@ -39,8 +39,17 @@ class Voci : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {0, altezza_voce}; }
 };
 
+/// A chosen line stays chosen, or the grid would show foods of no family.
+class Elenco : public QListWidget {
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& voce, const QEvent* evento) const override {
+    const auto comando = QListWidget::selectionCommand(voce, evento);
+    return comando & QItemSelectionModel::Deselect ? QItemSelectionModel::ClearAndSelect : comando;
+  }
+};
+
 QListWidget* elenco(const QString& nome, const QString& suggerimento, int voci) {
-  auto* l = nominato(new QListWidget, nome, suggerimento);
+  auto* l = nominato(new Elenco, nome, suggerimento);
   l->setItemDelegate(new Voci(l));
   l->setFixedWidth(larghezza_liste);
   l->setMinimumHeight(voci * altezza_voce + 2);

@@ -108,6 +108,8 @@ TEST_F(ProvaFormdiario, MealGroupAndFamilyLeadToTheFoods) {
   EXPECT_EQ(cella(0, 0) + cella(0, 1), u"121"_s);
   EXPECT_EQ(cella(0, col_nome), cibi.front().descrizione);
   EXPECT_EQ(f->MSFlex1->rowCount(), std::ranges::count_if(cibi, [](const Alimento& a) { return a.quantita != 0; }));
+  QTest::keyClick(f->ListAlimenti, Qt::Key_Space, Qt::ControlModifier);
+  EXPECT_EQ(f->trova_cod1(), 12) << "foods on the grid always have their family";
   clicca(f->ListGRUPPI, 3);
   EXPECT_EQ(f->MSFlex1->rowCount(), 0);
   EXPECT_EQ(voci(f->ListAlimenti), (QStringList{u"Latticini"_s, u"Formaggi"_s, u"Uova di gallina"_s}));
