@@ -214,7 +214,7 @@ void Formalimenti::imposta_segno(std::size_t riga, Segno segno) {
 }
 
 void Formalimenti::togli_segno(std::size_t riga, Segno segno) {
-  modello_->cambia([&](Scheda& s) { static_cast<void>(::togli_segno(s, riga, segno)); });
+  modello_->cambia([&](Scheda& s) { ::togli_segno(s, riga, segno); });
   if (Valore* conta = contatore(segno)) conta->setText(u"0"_s);
 }
 
@@ -257,12 +257,11 @@ void Formalimenti::richiama_check() {
   }
 }
 
-/// Lunch rows of the other type are dropped, and their obligatory foods with them.
+/// Lunch rows of the other type are dropped.
 void Formalimenti::richiama_righe() {
   const int codice = sel() + 1;
   if (sel() == scheda_di::pranzo && LabSceltaFF.text() != LabSceltaFFold.text()) {
     dimentica_spunte(dati_tmp(), codice);
-    for (Valore* conta : {&contaFissiPranzoLV, &contaFissiPranzoSD}) conta->setText(u"0"_s);
     return tutti_accettati();
   }
   bool trovate = false;

@@ -144,22 +144,21 @@ void imposta_segno(AlimentoScheda& riga, Segno segno) {
   if (!riga.abb2.isEmpty()) riga.lista(segno) = riga.abb2;
 }
 
-bool togli_segno(Scheda& scheda, std::size_t quale, Segno segno) {
+void togli_segno(Scheda& scheda, std::size_t quale, Segno segno) {
   const auto s = static_cast<std::size_t>(segno);
   AlimentoScheda& riga = scheda[quale];
-  if (!riga.segni[s]) return false;
+  if (!riga.segni[s]) return;
   riga.segni[s] = false;
   if (riga.lista(segno).isEmpty()) {
     for (AlimentoScheda& altra : scheda) {
       if (altra.cod1 == riga.cod1) togli_da_lista(altra.lista(segno), riga.cod2);
     }
-    return true;
+    return;
   }
   for (const QString& cod2 : abbinamenti(riga.lista(segno))) {
     if (const auto compagno = riga_di(scheda, riga.cod1, cod2)) scheda[*compagno].segni[s] = false;
   }
   riga.lista(segno).clear();
-  return true;
 }
 
 void spunta_gruppo(Scheda& scheda, int a, int b, int colonna, bool accetta) {

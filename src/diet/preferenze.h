@@ -47,9 +47,8 @@ using Scheda = std::vector<AlimentoScheda>;
 /// Marks a row and puts its own companions in force, where it has any; nothing where the mark stands.
 void imposta_segno(AlimentoScheda& riga, Segno segno);
 
-/// Takes a mark away. A food with companions takes theirs along; one without leaves the lists of its group. False
-/// where there was no mark.
-bool togli_segno(Scheda& scheda, std::size_t riga, Segno segno);
+/// Takes a mark away. A food with companions takes theirs along; one without leaves the lists of its group.
+void togli_segno(Scheda& scheda, std::size_t riga, Segno segno);
 
 /// Gives or takes the acceptance of every food whose first column holds `a` and whose column `colonna`, counted from
 /// 1, holds `b`.
