@@ -86,11 +86,9 @@ void Formalimenti::salva_tipo_pranzo() {
 void Formalimenti::continua_dal_pranzo() {
   if (!numerico(LabSceltaFF.text())) return;
   FrameSceltaFF->hide();
-  if (numerico(LabSceltaAlim.text())) {
-    mostra_pasti();
-  } else {
-    FrameSceltaAlimenti->show();
-  }
+  if (numerico(LabSceltaAlim.text())) return mostra_pasti();
+  FrameSceltaAlimenti->show();
+  OptAlim[0]->setFocus();
 }
 
 void Formalimenti::continua_dalla_scelta() {

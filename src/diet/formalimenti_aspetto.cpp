@@ -4,6 +4,7 @@
 
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -147,6 +148,8 @@ QWidget* Formalimenti::disegna_caselle() {
 
 void Formalimenti::mostra_pasti() {
   for (QWidget* w : {static_cast<QWidget*>(FramePulsantiPasti), static_cast<QWidget*>(MSFlex1), destra_}) w->show();
+  const auto apribile = std::ranges::find_if(CmdPasto, &QPushButton::isEnabled);
+  if (apribile != CmdPasto.end()) (*apribile)->setFocus();
 }
 
 /// Yellow for the meal on display.
