@@ -283,9 +283,15 @@ void Formalimenti::apri_integratori(const QStringList& valori) {
   });
 }
 
-/// The supplements as their window left them.
+/// The supplements as their window left them. A mark that went with its supplement frees its place.
 void Formalimenti::rinfresca_integratori() {
   if (sel() != scheda_di::integratori) return;
+  const auto segnato = [this](Segno s) {
+    return std::ranges::any_of(scheda(), [s](const auto& r) { return r.segnato(s); });
+  };
+  const bool lv = segnato(Segno::LV), sd = segnato(Segno::SD);
   modello_->riempi(leggi_integratori(dati_tmp()));
   richiama_spunte_alimenti();
+  if (lv && !segnato(Segno::LV)) contaFissiIntegratoreLV.setText(u"0"_s);
+  if (sd && !segnato(Segno::SD)) contaFissiIntegratoreSD.setText(u"0"_s);
 }

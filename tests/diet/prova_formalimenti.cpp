@@ -88,6 +88,16 @@ class ProvaAlimenti : public Ambiente {
     const auto r = dati_tmp().righe(u"SELECT pranzoFF FROM alimenti"_s);
     return r.empty() ? 0 : r.front()[u"pranzoFF"].toInt();
   }
+  /// Fills the window that opened because there was no supplement, and saves it.
+  static void inserisci_integratore(const QString& grammi) {
+    auto* finestra = caricata<Formintegrat>();
+    ASSERT_NE(finestra, nullptr);
+    const std::array testi{u"Proteine d'uovo"_s, QString(), u"80"_s, u"2"_s, u"6"_s, grammi};
+    for (std::size_t i = 0; i < testi.size(); ++i) {
+      if (i != 1) finestra->Text1[i]->setText(testi[i]);
+    }
+    clic(finestra->Command1[0]);
+  }
   Formalimenti* f{};
 };
 
@@ -214,16 +224,10 @@ TEST_F(ProvaAlimenti, SupplementsAreMarkedForTheLunchesAndOpenTheirWindow) {
   apri_nuovo();
   passi(0, 1);
   pasto(integratore);
-  auto* finestra = caricata<Formintegrat>();
-  ASSERT_NE(finestra, nullptr) << "there is no supplement yet";
-  const std::array testi{u"Proteine d'uovo"_s, u""_s, u"80"_s, u"2"_s, u"6"_s, u"30"_s};
-  for (std::size_t i = 0; i < testi.size(); ++i) {
-    if (i != 1) finestra->Text1[i]->setText(testi[i]);
-  }
-  clic(finestra->Command1[0]);
+  inserisci_integratore(u"30"_s);
   ASSERT_EQ(righe(), 1);
   tocca(u"Proteine d'uovo"_s, colonna_di::lv);
-  finestra = caricata<Formintegrat>();
+  auto* finestra = caricata<Formintegrat>();
   ASSERT_NE(finestra, nullptr);
   EXPECT_EQ(finestra->Text1[5]->text(), u"30"_s);
   EXPECT_EQ(conta(u"Integratore_dieta WHERE LV AND NOT SD"_s), 1);
@@ -232,6 +236,7 @@ TEST_F(ProvaAlimenti, SupplementsAreMarkedForTheLunchesAndOpenTheirWindow) {
   tocca(u"Proteine d'uovo"_s, colonna_di::nome);
   clic(caricata<Formintegrat>()->Command1[2]);
   EXPECT_EQ(righe(), 0);
+  EXPECT_EQ(f->contaFissiIntegratoreLV.text(), u"0"_s) << "another may take its place";
   EXPECT_EQ(caricata<Formintegrat>(), nullptr);
 }
 
@@ -244,25 +249,18 @@ TEST_F(ProvaAlimenti, TheMarkNeedsNoFile) {
   EXPECT_NE(misura(), QSize(45, 45));
 }
 
-TEST_F(ProvaAlimenti, AWeekElaboratedFromTheseChoicesKeepsToThem) {
-  apri_nuovo();
-  passi(0, 0);
-  pasto(pranzo);
-  clic(casella(u"CheckPranzo_7"_s));  // no fish
-  tocca(u"Pane integrale"_s, colonna_di::lv);
-  tocca(u"Mela"_s, colonna_di::sd);
-  pasto(cena);
-  tocca(u"Spaghetti"_s, colonna_di::ok);
-  schermata<Mdiorza>().Command1[1]->click();
-  ASSERT_TRUE(caricata<Formelabora>());
+namespace {
+
+/// Foods served in the first week against the client's list: all of them allowed that day, the obligatory ones there,
+/// none more than twice a week at lunch; the supplement on weekdays alone.
+void controlla_settimana() {
   std::map<std::pair<int, int>, int> ammessi, obbligati;  // by meal code and food: bits of the days
+  ammessi[{4, 23000}] = 31;
   for (const Riga& r : dati_tmp().righe(u"SELECT * FROM alimenti_spuntati"_s)) {
-    const int cibo = r[u"cod1"].toInt() * 1000 + r[u"cod2"].toInt(), codice = r[u"pasto"].toInt();
-    if (r[u"ok"].toBool()) ammessi[{codice, cibo}] = 127;
-    obbligati[{codice, cibo}] = (r[u"LV"].toBool() ? 31 : 0) + (r[u"SD"].toBool() ? 96 : 0);
+    const std::pair chiave(r[u"pasto"].toInt(), r[u"cod1"].toInt() * 1000 + r[u"cod2"].toInt());
+    if (r[u"ok"].toBool()) ammessi[chiave] = 127;
+    obbligati[chiave] = (r[u"LV"].toBool() ? 31 : 0) + (r[u"SD"].toBool() ? 96 : 0);
   }
-  scegli(schermata<Formelabora>().Combo1, 0);
-  clic(schermata<Formelabora>().test);
   std::map<int, int> pranzi;
   std::map<std::pair<int, int>, int> serviti;
   for (int giorno = 0; giorno < giorni; ++giorno) {
@@ -275,12 +273,38 @@ TEST_F(ProvaAlimenti, AWeekElaboratedFromTheseChoicesKeepsToThem) {
         const std::pair chiave(codice, v.cod1 * 1000 + v.cod2);
         serviti[chiave] |= 1 << giorno;
         EXPECT_TRUE((ammessi[chiave] | obbligati[chiave]) & (1 << giorno)) << v.descr.toStdString();
-        if (m == 2 && obbligati[chiave] == 0) ++pranzi[chiave.second];
+        if (m == 2 && v.cod1 < 23 && obbligati[chiave] == 0) ++pranzi[chiave.second];
       }
     }
   }
   for (const auto& [cibo, volte] : pranzi) EXPECT_LE(volte, 2) << cibo;
   for (const auto& [chiave, giorni_voluti] : obbligati) {
     EXPECT_EQ(serviti[chiave] & giorni_voluti, giorni_voluti) << chiave.second;
+  }
+  EXPECT_NE((serviti[{4, 23000}]), 0);
+}
+
+}  // namespace
+
+TEST_F(ProvaAlimenti, AWeekElaboratedFromTheseChoicesKeepsToThem) {
+  for (const std::size_t modo : {0U, 1U}) {
+    SCOPED_TRACE(modo == 0 ? "automatic" : "by hand");
+    apri_nuovo();
+    passi(0, modo);
+    for (const auto quale : {colazione, spuntino, merenda, pranzo}) pasto(quale);
+    clic(casella(u"CheckPranzo_7"_s));  // no fish
+    tocca(u"Pane integrale"_s, colonna_di::lv);
+    tocca(u"Mela"_s, colonna_di::sd);
+    pasto(cena);
+    tocca(u"Spaghetti"_s, colonna_di::ok);
+    pasto(integratore);
+    if (modo == 0) inserisci_integratore(u"10"_s);
+    tocca(u"Proteine d'uovo"_s, modo == 0 ? colonna_di::lv : colonna_di::nome);
+    caricata<Formintegrat>()->close();
+    schermata<Mdiorza>().Command1[1]->click();
+    ASSERT_TRUE(caricata<Formelabora>());
+    scegli(schermata<Formelabora>().Combo1, 0);
+    clic(schermata<Formelabora>().test);
+    controlla_settimana();
   }
 }
