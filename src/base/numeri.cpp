@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <optional>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +24,16 @@ QByteArray in_forma_c(QStringView testo) {
   if (locale.groupSeparator() != u" "_s) t.remove(locale.groupSeparator());
   t.replace(locale.decimalPoint(), u"."_s);
   return numero.match(t).hasMatch() ? t.toLatin1() : QByteArray();
+}
+
+/// The number a text stands for; none where it is no number, or one that no double holds.
+std::optional<double> numero_di(QStringView testo) {
+  QByteArray c = in_forma_c(testo);
+  if (c.isEmpty()) return {};
+  if (c.startsWith('+')) c.remove(0, 1);
+  double x = 0;
+  if (std::from_chars(c.constData(), c.constData() + c.size(), x).ec != std::errc()) return {};
+  return x;
 }
 
 /// Sign, significant digits and decimal exponent of a number cut to `cifre` digits.
@@ -90,15 +102,12 @@ QString testo_semplice(double x, int cifre) {
 
 }  // namespace
 
-bool numerico(QStringView testo) { return !in_forma_c(testo).isEmpty(); }
+bool numerico(QStringView testo) { return numero_di(testo).has_value(); }
 
 double valore(QStringView testo) {
-  QByteArray c = in_forma_c(testo);
-  if (c.isEmpty()) throw Errore(13, "Tipo non corrispondente");
-  if (c.startsWith('+')) c.remove(0, 1);
-  double x = 0;
-  std::from_chars(c.constData(), c.constData() + c.size(), x);
-  return x;
+  const auto x = numero_di(testo);
+  if (!x) throw Errore(13, "Tipo non corrispondente");
+  return *x;
 }
 
 std::int16_t round16(double x) {

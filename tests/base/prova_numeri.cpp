@@ -13,7 +13,9 @@ TEST(Numeri, TypedTextIsReadUnderTheLocale) {
     EXPECT_TRUE(numerico(testo)) << vale;
     EXPECT_DOUBLE_EQ(valore(testo), vale);
   }
-  for (const QStringView testo : {u"", u" ", u"12a", u"1,2,3", u"-", u"1e3"}) {
+  const QString enorme(400, u'9');
+  for (const QStringView testo :
+       std::initializer_list<QStringView>{u"", u" ", u"12a", u"1,2,3", u"-", u"1e3", enorme}) {
     EXPECT_FALSE(numerico(testo)) << testo.toString().toStdString();
     EXPECT_THROW((void)valore(testo), Errore);
   }
