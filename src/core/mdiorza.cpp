@@ -217,9 +217,11 @@ void Mdiorza::congeda(QWidget& schermo) {
   if (!rimaste.isEmpty()) porta_davanti(rimaste.last()->widget());
 }
 
+/// A frame may come in front whose screen is closed already and goes with the event at hand: that one stays out.
 void Mdiorza::porta_davanti(QWidget* schermo) {
-  if (davanti_ == schermo) return;
+  const auto ora = figlie_.find(schermo);
+  if (davanti_ == schermo || ora == figlie_.end()) return;
   const auto prima = figlie_.find(std::exchange(davanti_, schermo));
   if (prima != figlie_.end() && prima->second.disattivazione) prima->second.disattivazione();
-  figlie_.at(schermo).attivazione();
+  ora->second.attivazione();
 }
