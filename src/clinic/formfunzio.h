@@ -10,6 +10,8 @@
 #include <QWidget>
 #include <array>
 
+class QGridLayout;
+
 class Formfunzio : public QWidget {
  public:
   Formfunzio();
@@ -48,6 +50,7 @@ class Formfunzio : public QWidget {
   void disegna();
   QWidget* disegna_anamnesi();
   QWidget* disegna_rischio();
+  void disegna_situazioni(QGridLayout& griglia);
   QWidget* disegna_pressione();
   QWidget* disegna_farmaci();
   QWidget* disegna_esami();

@@ -88,21 +88,7 @@ QWidget* Formfunzio::disegna_rischio() {
   LabAddome = segno(u"LabAddome"_s);
   c.griglia->addWidget(LabRapporto, 2, 2);
   c.griglia->addWidget(LabAddome, 3, 2);
-  const std::array situazioni{u"Presenza di Sovrappeso"_s, u"Presenza di Ipertensione"_s, u"Fumatore"_s};
-  for (std::size_t i = 0; i < situazioni.size(); ++i) {
-    ComboRischio[i] = nominato(new QComboBox, nome_indice(u"ComboRischio", i), situazioni[i]);
-    ComboRischio[i]->addItems({u"Si"_s, u"No"_s});
-    ComboRischio[i]->setCurrentIndex(-1);
-    ComboRischio[i]->setFixedWidth(larghezza_scelta);
-    QLabel* scritta = riga(*c.griglia, static_cast<int>(i), situazioni[i], ComboRischio[i], 5);
-    if (i == 0) LabSOVRA = nominato(scritta, u"LabSOVRA"_s);
-    LabSituazioni[i] = segno(nome_indice(u"LabSituazioni", i));
-    c.griglia->addWidget(LabSituazioni[i], static_cast<int>(i), 6);
-  }
-  LabBMI = nominato(new QLabel(u"Obesità (BMI > 30)"_s), u"LabBMI"_s);
-  LabBMI->setBuddy(ComboRischio[0]);
-  c.griglia->addWidget(LabBMI, 0, 4);
-  for (QLabel* e : {LabSOVRA, LabBMI}) e->hide();
+  disegna_situazioni(*c.griglia);
   TxtIndici = campo_calcolato(u"TxtIndici"_s, larghezza_misura);
   TxtIndici->setText(u"0"_s);
   riga(*c.griglia, 4, u"Indici di rischio presenti n°"_s, TxtIndici);
@@ -111,6 +97,24 @@ QWidget* Formfunzio::disegna_rischio() {
   c.griglia->addLayout(livello, 4, 4, 1, 3);
   c.griglia->setColumnStretch(3, 1);
   return c.box;
+}
+
+void Formfunzio::disegna_situazioni(QGridLayout& griglia) {
+  const std::array situazioni{u"Presenza di Sovrappeso"_s, u"Presenza di Ipertensione"_s, u"Fumatore"_s};
+  for (std::size_t i = 0; i < situazioni.size(); ++i) {
+    ComboRischio[i] = nominato(new QComboBox, nome_indice(u"ComboRischio", i), situazioni[i]);
+    ComboRischio[i]->addItems({u"Si"_s, u"No"_s});
+    ComboRischio[i]->setCurrentIndex(-1);
+    ComboRischio[i]->setFixedWidth(larghezza_scelta);
+    QLabel* scritta = riga(griglia, static_cast<int>(i), situazioni[i], ComboRischio[i], 5);
+    if (i == 0) LabSOVRA = nominato(scritta, u"LabSOVRA"_s);
+    LabSituazioni[i] = segno(nome_indice(u"LabSituazioni", i));
+    griglia.addWidget(LabSituazioni[i], static_cast<int>(i), 6);
+  }
+  LabBMI = nominato(new QLabel(u"Obesità (BMI > 30)"_s), u"LabBMI"_s);
+  LabBMI->setBuddy(ComboRischio[0]);
+  griglia.addWidget(LabBMI, 0, 4);
+  for (QLabel* e : {LabSOVRA, LabBMI}) e->hide();
 }
 
 QWidget* Formfunzio::disegna_pressione() {
