@@ -153,8 +153,13 @@ TEST_F(ProvaTrattamento, TheStageEndsWhenAnotherScreenComesInFront) {
   EXPECT_EQ(m.qualeform.text(), u"10"_s);
   mostra<Formsched>();
   EXPECT_EQ(m.qualeform.text(), u"-1"_s);
+  m.Command1[0]->click();
+  EXPECT_EQ(caricata<Formtratta>(), f) << "nothing leads on from between the stages";
   scarica<Formsched>();
   EXPECT_EQ(m.qualeform.text(), u"10"_s);
+  m.Command1[0]->click();
+  EXPECT_EQ(caricata<Formtratta>(), nullptr);
+  EXPECT_EQ(m.qualeform.text(), u"8"_s);
 }
 
 TEST_F(ProvaTrattamento, AVisitsNoteGoesToTheEditorAndBack) {
