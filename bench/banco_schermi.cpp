@@ -4,6 +4,8 @@
 #include "assessment/formattivita.h"
 #include "base/archivio.h"
 #include "base/file.h"
+#include "clinic/formfunzio.h"
+#include "clinic/formtratta.h"
 #include "core/aspetto.h"
 #include "core/errore_non_gestito.h"
 #include "core/frmlogin.h"
@@ -13,6 +15,7 @@
 #include "diary/formdiario.h"
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
+#include "intake/formpers.h"
 #include "office/formagenda.h"
 #include "office/formrubrica.h"
 
@@ -81,11 +84,14 @@ void schermi(int volte) {
   parla_con([](const Riquadro&) { return true; });
   mostra<Mdiorza>();
   apri_e_chiudi<Formanag>("master data opens", "master data closes", volte);
+  apri_e_chiudi<Formpers>("personal history opens", "personal history closes", volte);
+  apri_e_chiudi<Formfunzio>("clinical history opens", "clinical history closes", volte);
   apri_e_chiudi<Formdiario>("diary opens", "diary closes", volte);
   apri_e_chiudi<Formattività>("activities open", "activities close", volte);
   apri_e_chiudi<Formelabora>("elaboration opens", "elaboration closes", volte);
   apri_e_chiudi<Formrubrica>("address book opens", "address book closes", volte);
   apri_e_chiudi<Formagenda>("agenda opens", "agenda closes", volte);
+  apri_e_chiudi<Formtratta>("follow-up opens", "follow-up closes", volte);
   mostra<Formanag>();
   std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());
   abbandona_schermate();
