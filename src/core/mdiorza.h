@@ -35,6 +35,8 @@ class Mdiorza : public QMainWindow {
 
   /// Saves the stage in front and opens the popup of the reports.
   void apri_stampe();
+  /// The entries of the popup that tell of the open client.
+  void abilita_stampe(bool si);
 
   Valore qualeform;   // code of the stage in front, -1 between stages, empty before the first
   Valore LabPesoOld;  // kg, the weight as it stood in the client's file

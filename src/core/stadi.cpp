@@ -31,7 +31,9 @@ constexpr Stadio percorso_stadi[]{
 };
 
 void abilita(bool si) {
-  for (const Stadio& s : stadi()) schermata<Mdiorza>().cmdsopra[s.pulsante]->setEnabled(si && s.apri);
+  Mdiorza& m = schermata<Mdiorza>();
+  for (const Stadio& s : stadi()) m.cmdsopra[s.pulsante]->setEnabled(si && s.apri);
+  m.abilita_stampe(si);
 }
 
 /// The nearest stage on one side of the path (+1 onward, -1 back) whose screen is there; null where none is left.

@@ -1,0 +1,34 @@
+// What several sheets read: the practice's identity, the client's saved file, the names of the meals.
+#pragma once
+
+#include "base/archivio.h"
+
+#include <QStringView>
+#include <array>
+#include <optional>
+
+inline constexpr std::array<QStringView, 5> nomi_pasti{u"Colazione", u"Spuntino", u"Pranzo", u"Merenda", u"Cena"};
+
+/// The practice's name, title and address, as the sheets' heads name them.
+struct Studio {
+  QString nome, qualifica, indirizzo;
+};
+[[nodiscard]] Studio identità();
+
+/// The client's file as the general save left it. Empty, and said in a box, where there is none.
+[[nodiscard]] std::optional<Archivio> cliente_salvato();
+void avvisa_cliente_assente();
+
+/// A store beside the program. Empty, and said in a box, where it is missing.
+[[nodiscard]] std::optional<Archivio> archivio_alimenti(const QString& nome);
+
+/// The first row of a table; empty where it has none.
+[[nodiscard]] std::optional<Riga> prima_riga(Archivio& archivio, const QString& tabella);
+
+/// The rows that a page shows, first and last included, counted from 0.
+struct Finestra {
+  std::size_t prima, ultima;
+};
+
+/// The rows of a page's window as far as they are there.
+[[nodiscard]] std::vector<Riga> nella_finestra(const std::vector<Riga>& righe, Finestra f);
