@@ -18,6 +18,7 @@
 #include "intake/formpers.h"
 #include "office/formagenda.h"
 #include "office/formrubrica.h"
+#include "reports/formstampe.h"
 
 #include <QDir>
 #include <QFile>
@@ -64,6 +65,29 @@ void apri_e_chiudi(const char* apre, const char* chiude, int volte) {
   tempo(chiude, volte, apri, chiudi);
 }
 
+/// A week of 25 foods a day and a diary of one page, in the client's file.
+void riempi_cliente() {
+  dati_tmp().esegui_copione(
+      u"INSERT INTO dieta (dieta, giorno, pasto, descr, cal, prot, lip, gluc, quant, quant_mod)"
+      "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 174)"
+      "SELECT 1, i / 25, i % 5, 'Alimento ' || i, 100, 10, 10, 10, 100, '' FROM n;"
+      "INSERT INTO scelte_diario (pasto, cod1, cod2, dose)"
+      "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 23)"
+      "SELECT i / 5, 1, 1 + i % 3, 100 FROM n"_s);
+  salva_su_file_cliente();
+  apri_dati_tmp(Scopo::caricare);
+}
+
+/// The first page as a recalled client's preview draws it, at full size.
+void disegna_rapporto(const char* che, const QString& codice, const QString& verso, int volte) {
+  apri_stampa(codice, verso);
+  Formstampe& f = *caricata<Formstampe>();
+  tempo(
+      che, volte, [&] { f.List1->setCurrentRow(1); }, [&] { f.List1->setCurrentRow(0); });
+  scarica<Formstampe>();
+  dipingi();
+}
+
 double memoria_mb() {
   QFile f(u"/proc/self/status"_s);
   if (!f.open(QIODevice::ReadOnly)) return 0;
@@ -93,6 +117,11 @@ void schermi(int volte) {
   apri_e_chiudi<Formagenda>("agenda opens", "agenda closes", volte);
   apri_e_chiudi<Formtratta>("follow-up opens", "follow-up closes", volte);
   mostra<Formanag>();
+  riempi_cliente();
+  disegna_rapporto("personal data drawn", u"1"_s, u"v"_s, volte);
+  disegna_rapporto("day of a diet drawn", u"21"_s, u"v"_s, volte);
+  disegna_rapporto("diary list drawn", u"8"_s, u"v"_s, volte);
+  disegna_rapporto("calorie list drawn", u"7"_s, u"o"_s, volte);
   std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());
   abbandona_schermate();
   chiudi_archivi();

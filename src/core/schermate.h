@@ -101,13 +101,41 @@ void mostra() {
   }
 }
 
+namespace dettaglio {
+/// Lets the one instance go; the widget itself goes when the event at hand is over.
+template <Schermata S>
+void lascia(S& s) {
+  congeda(s);
+  posto<S>().release()->deleteLater();
+}
+}  // namespace dettaglio
+
 /// Closes the screen where it is loaded: its closing rule runs while its controls still hold their values. The widget
 /// itself goes when the event at hand is over, so that a screen may be closed by one of its own buttons.
 template <Schermata S>
 void scarica() {
   if (auto* s = caricata<S>()) {
     s->alla_chiusura();
-    dettaglio::congeda(*s);
-    dettaglio::posto<S>().release()->deleteLater();
+    dettaglio::lascia(*s);
   }
 }
+
+/// A screen that is read for a moment: where it was closed it goes again without its closing rule, so that the reading
+/// neither stores anything nor leaves a screen behind that grows old unseen.
+template <Schermata S>
+class InLettura {
+ public:
+  InLettura() : era_chiusa_(!caricata<S>()), letta_(schermata<S>()) {}
+  ~InLettura() {
+    if (era_chiusa_) dettaglio::lascia(letta_);
+  }
+  InLettura(const InLettura&) = delete;
+  InLettura& operator=(const InLettura&) = delete;
+
+  S* operator->() const { return &letta_; }
+  S& operator*() const { return letta_; }
+
+ private:
+  bool era_chiusa_;
+  S& letta_;
+};

@@ -11,6 +11,7 @@
 #include "diary/famiglie.h"
 #include "diary/formintegrat.h"
 #include "diary/totali.h"
+#include "reports/formstampe.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -90,7 +91,7 @@ void Formdiario::collega_regole() {
   al_clic(Combodose, [this] { prendi_dose(); });
   Combodose->installEventFilter(this);
   for (QLineEdit* t : TxtLivelli) al_cambio(t, [this] { somma_giorno(); });
-  Command1->setEnabled(false);
+  al_clic(Command1, [] { apri_stampa(u"8"_s, u"v"_s); });
 }
 
 void Formdiario::al_caricamento() {

@@ -1,26 +1,51 @@
 #include "reports/foglio_dipinto.h"
 
+#include <QSvgRenderer>
+#include <algorithm>
+#include <cmath>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A column is the mean width of Italian text in this face: 0.4416 of the font's size in any face with its metrics.
-constexpr double colonna_su_corpo = 0.4416;
+// Shares of the font's size, for any face with Arial's metrics. A column is the mean width of Italian text.
+constexpr double colonna = 0.4416;
+constexpr double interlinea = 1.149;
+constexpr double ascendente = 0.905;
 
-double corpo(const QFont& carattere, const QPaintDevice& foglio) {
-  return carattere.pointSizeF() * foglio.logicalDpiY() / 72;
+/// Measured at one large size, so that a line parts alike at every zoom and on paper.
+constexpr int corpo_di_misura = 200;
+
+QFont carattere() {
+  QFont f(u"Arial"_s);
+  f.setHintingPreference(QFont::PreferNoHinting);
+  return f;
+}
+
+QFont alto(double pixel, const QPaintDevice& foglio) {
+  QFont f = carattere();
+  f.setPointSizeF(pixel * 72 / foglio.logicalDpiY());
+  return f;
+}
+
+QFont di_misura() {
+  QFont f = carattere();
+  f.setPixelSize(corpo_di_misura);
+  return f;
 }
 
 }  // namespace
 
-FoglioDipinto::FoglioDipinto(QPainter& pittore, Misure misure, const QPixmap& logo, std::function<void()> foglio_nuovo)
+FoglioDipinto::FoglioDipinto(QPainter& pittore, const Misure& misure, QSvgRenderer& logo,
+                             std::function<void()> foglio_nuovo)
     : pittore_(pittore),
-      misure_(std::move(misure)),
+      misure_(misure),
       logo_(logo),
       foglio_nuovo_(std::move(foglio_nuovo)),
-      metrica_(misure_.carattere, pittore.device()),
-      colonna_(colonna_su_corpo * corpo(misure_.carattere, *pittore.device())) {
-  pittore_.setFont(misure_.carattere);
+      metrica_(di_misura()),
+      righe_(static_cast<int>(std::min(misure.altezza / (interlinea * misure.corpo), 1e6))) {
+  pittore_.setFont(alto(misure_.corpo, *pittore.device()));
 }
 
 void FoglioDipinto::ricomincia() {
@@ -31,22 +56,22 @@ void FoglioDipinto::ricomincia() {
 void FoglioDipinto::colore(QRgb colore) { pittore_.setPen(QColor(colore)); }
 
 void FoglioDipinto::sottolinea(bool si) {
-  QFont f = misure_.carattere;
+  QFont f = pittore_.font();
   f.setUnderline(si);
   pittore_.setFont(f);
 }
 
-void FoglioDipinto::logo() {
-  pittore_.drawPixmap(QRectF(misure_.origine + misure_.logo, misure_.misura_logo), logo_, QRectF(logo_.rect()));
+void FoglioDipinto::logo() { logo_.render(&pittore_, QRectF(misure_.origine + misure_.logo, misure_.misura_logo)); }
+
+double FoglioDipinto::larghezza(const QString& testo) const {
+  return metrica_.horizontalAdvance(testo) / (colonna * corpo_di_misura);
 }
 
-double FoglioDipinto::larghezza(const QString& testo) const { return metrica_.horizontalAdvance(testo) / colonna_; }
-
-void FoglioDipinto::dipingi(double colonne, int riga, const QString& testo) {
-  while (riga - prima_riga_ >= misure_.righe) {
-    prima_riga_ += misure_.righe;
+void FoglioDipinto::dipingi(double colonne, int quale, const QString& testo) {
+  while (quale - prima_riga_ >= righe_) {
+    prima_riga_ += righe_;
     if (foglio_nuovo_) foglio_nuovo_();
   }
-  const double y = (riga - prima_riga_) * metrica_.lineSpacing() + metrica_.ascent();
-  pittore_.drawText(misure_.origine + QPointF(colonne * colonna_, y), testo);
+  const double y = (quale - prima_riga_) * interlinea + ascendente;
+  pittore_.drawText(misure_.origine + misure_.corpo * QPointF(colonne * colonna, y), testo);
 }

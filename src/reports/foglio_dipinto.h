@@ -6,23 +6,24 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPixmap>
 #include <functional>
 #include <limits>
 
+class QSvgRenderer;
+
 /// Where and how large the painter writes, in its own units.
 struct Misure {
-  QFont carattere;
+  double corpo;  // of the font
   QPointF origine;
   QPointF logo;  // of the logo's corner, from the origin
   QSizeF misura_logo;
-  int righe = std::numeric_limits<int>::max();  // lines on a sheet
+  double altezza = std::numeric_limits<double>::infinity();  // of a sheet's lines together
 };
 
 class FoglioDipinto : public Bersaglio {
  public:
   /// `foglio_nuovo` is called when the text runs beyond the last line of a sheet.
-  FoglioDipinto(QPainter& pittore, Misure misure, const QPixmap& logo, std::function<void()> foglio_nuovo = {});
+  FoglioDipinto(QPainter& pittore, const Misure& misure, QSvgRenderer& logo, std::function<void()> foglio_nuovo = {});
 
   /// The cursor is at the top of a fresh sheet.
   void ricomincia();
@@ -38,9 +39,9 @@ class FoglioDipinto : public Bersaglio {
  private:
   QPainter& pittore_;
   Misure misure_;
-  QPixmap logo_;
+  QSvgRenderer& logo_;
   std::function<void()> foglio_nuovo_;
   QFontMetricsF metrica_;
-  double colonna_;      // width of a column
+  int righe_;           // lines on a sheet
   int prima_riga_ = 0;  // first line on the sheet at hand
 };

@@ -19,11 +19,19 @@ struct Studio {
 [[nodiscard]] std::optional<Archivio> cliente_salvato();
 void avvisa_cliente_assente();
 
+/// What a failed print says.
+void avvisa_stampante();
+
 /// A store beside the program. Empty, and said in a box, where it is missing.
 [[nodiscard]] std::optional<Archivio> archivio_alimenti(const QString& nome);
 
+/// The food of the diary's store that a choice names. Throws Errore 3021 where the store no longer holds it.
+[[nodiscard]] Riga alimento_scelto(Archivio& diario, const Riga& scelta);
+
 /// The first row of a table; empty where it has none.
 [[nodiscard]] std::optional<Riga> prima_riga(Archivio& archivio, const QString& tabella);
+/// The client's master data. Throws Errore 3021 where the file has none.
+[[nodiscard]] Riga anagrafe_di(Archivio& cliente);
 
 /// The rows that a page shows, first and last included, counted from 0.
 struct Finestra {

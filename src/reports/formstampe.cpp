@@ -1,26 +1,28 @@
 #include "reports/formstampe.h"
 
 #include "base/errori.h"
-#include "core/aspetto.h"
 #include "core/attesa.h"
 #include "core/dialoghi.h"
-#include "core/messaggi.h"
 #include "core/regole.h"
 #include "core/schermate.h"
 #include "reports/foglio_dipinto.h"
+#include "reports/fonti.h"
 
-#include <QIcon>
 #include <QPrinter>
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int twip = 15;            // to the pixel
-constexpr double dpi_schermo = 96;  // which points count from on the screen
-constexpr QPointF unità(8, 16);     // of the surface's scale, pixels
-constexpr QSize logo_intero(64, 64);
+constexpr int twip = 15;               // to the pixel
+constexpr double punto = 96.0 / 72;    // pixels
+constexpr QPointF unità(8, 16);        // of the surface's scale, pixels
+constexpr QSizeF logo_intero(64, 64);  // pixels
+constexpr QSizeF logo_piccolo(4 * unità.x(), 2 * unità.y());
+constexpr double corpo_su_carta = 10;  // points
+constexpr double pollice = 2.54;       // cm
 
 struct Zoom {
   QStringView orientamento;
@@ -28,13 +30,12 @@ struct Zoom {
   QSize misura;  // twips
   double corpo;  // points
   int sinistra;  // twips
-  QSizeF logo;   // pixels
 };
 constexpr Zoom zoom[]{
-    {u"v", 0, {7770, 10989}, 7, 90, logo_intero},
-    {u"v", 1, {3885, 5494}, 3.3, 2000, {4 * unità.x(), 2 * unità.y()}},
-    {u"o", 0, {11300, 7900}, 7, 90, logo_intero},
-    {u"o", 1, {5650, 3950}, 3.3, 1500, {4 * unità.x(), 2 * unità.y()}},
+    {u"v", 0, {7770, 10989}, 7, 90},
+    {u"v", 1, {3885, 5494}, 3.3, 2000},
+    {u"o", 0, {11300, 7900}, 7, 90},
+    {u"o", 1, {5650, 3950}, 3.3, 1500},
 };
 
 const Zoom* zoom_di(const QString& orientamento, int indice) {
@@ -43,27 +44,15 @@ const Zoom* zoom_di(const QString& orientamento, int indice) {
   return z == std::end(zoom) ? nullptr : z;
 }
 
-QFont carattere(double punti) {
-  QFont f(u"Arial"_s);
-  f.setPointSizeF(punti);
-  return f;
-}
-
 /// How far a bar scrolls: by hundreds of twips, with 500 to spare.
 int corsa(int finestra, int foglio) {
   const int avanzo = finestra * twip - foglio * twip - 500;
   return avanzo < 1 ? static_cast<int>(std::nearbyint(std::abs(avanzo / 100.0))) : 0;
 }
 
-void avvisa_stampante() {
-  messaggio(
-      u"Il Programma non è riuscito ad inviare i dati alla stampante indicata\n"
-      u"poichè i driver sono installati, ma la stessa non è collegata al sistema !"_s);
-}
-
 }  // namespace
 
-Formstampe::Formstampe() {
+Formstampe::Formstampe() : Pic_logo(u":/pictures/logo.svg"_s), corpo_(zoom[0].corpo * punto) {
   disegna();
   collega_regole();
 }
@@ -79,13 +68,12 @@ void Formstampe::collega_regole() {
   al_clic(Cmdchar[2], scarica<Formstampe>);
 }
 
-void Formstampe::al_caricamento() { Pic_logo = icona(u"logo"_s).pixmap(logo_intero, 4); }
-
 /// The choice of the zoom draws the page.
 void Formstampe::all_attivazione() { List1->setCurrentRow(0); }
 
 void Formstampe::scegli_zoom() {
   if (List1->currentRow() < 0) return;
+  Picture1->clear();
   misura_foglio();
   const Rapporto* r = rapporto(Labstampa.text());
   if (!r) return;
@@ -94,13 +82,14 @@ void Formstampe::scegli_zoom() {
   setWindowTitle(r->titolo.toString() + u" - Anteprima di stampa"_s);
 }
 
+/// A report without orientation leaves the surface as it is.
 void Formstampe::misura_foglio() {
-  Picture1->setPixmap({});
   const Zoom* z = zoom_di(Laborienta.text(), List1->currentRow());
   if (!z) return;
   Picture1->resize(z->misura / twip);
-  Picture1->move(z->sinistra / twip, Picture1->y());
+  corpo_ = z->corpo * punto;
   misura_barre();
+  Picture1->move(z->sinistra / twip, Picture1->y());
 }
 
 void Formstampe::misura_barre() {
@@ -122,17 +111,15 @@ void Formstampe::prepara_pagine(const Rapporto& r) {
 
 void Formstampe::scrivi_pagina() {
   const Rapporto* r = rapporto(Labstampa.text());
-  const Zoom* z = zoom_di(Laborienta.text(), List1->currentRow());
-  if (!r || !z) return;
+  if (!r) return;
   QPixmap foglio(Picture1->size() * devicePixelRatioF());
   foglio.setDevicePixelRatio(devicePixelRatioF());
   foglio.fill(Qt::white);
   {
     QPainter pittore(&foglio);
-    pittore.setPen(Qt::black);
-    const double punti = z->corpo * dpi_schermo / foglio.logicalDpiY();
     const QPointF logo(0.5 * unità.x(), 0.2 * unità.y());
-    FoglioDipinto b(pittore, {carattere(punti), QPointF(unità.x(), 0), logo, z->logo}, Pic_logo);
+    const QSizeF misura_logo = List1->currentRow() == 0 ? logo_intero : logo_piccolo;
+    FoglioDipinto b(pittore, {corpo_, QPointF(unità.x(), 0), logo, misura_logo}, Pic_logo);
     abbandona([&] { r->scrivi(b, std::max(1, Slider1->value())); });
   }
   Picture1->setPixmap(foglio);
@@ -151,21 +138,21 @@ void Formstampe::stampa() {
   }
 }
 
-/// Upright sheets begin 1 cm from the left and 3 cm from the top of the paper, landscape ones 1 cm from both.
+/// Upright sheets begin 1 cm from the left and 3 cm from the top of the paper, landscape ones 1 cm from both; 1 cm
+/// stays free at the foot.
 void Formstampe::stampa_su(QPrinter& p, const Rapporto& r) {
   p.setFullPage(true);
   p.setPageOrientation(r.orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait);
   QPainter pittore;
   if (!pittore.begin(&p)) throw Errore(482, "Errore della stampante");
-  const double cm = p.logicalDpiY() / 2.54;
+  const double dpi = p.logicalDpiY(), cm = dpi / pollice;
   const QPointF origine(cm, r.orizzontale ? cm : 3 * cm);
-  const QFont f = carattere(10);
-  const int righe = static_cast<int>((p.height() - origine.y() - cm) / QFontMetricsF(f, &p).lineSpacing());
-  const QSizeF logo = QSizeF(logo_intero) * (p.logicalDpiY() / dpi_schermo);
+  const QSizeF logo = logo_intero * (dpi / (72 * punto));
   const auto nuovo = [&] {
     if (!p.newPage()) throw Errore(482, "Errore della stampante");
   };
-  FoglioDipinto b(pittore, {f, origine, {}, logo, righe}, Pic_logo, nuovo);
+  FoglioDipinto b(pittore, {corpo_su_carta / 72 * dpi, origine, {}, logo, p.height() - origine.y() - cm}, Pic_logo,
+                  nuovo);
   const int pagine = r.stampate ? r.stampate : std::max(1, Slider1->maximum());
   for (int pagina = 1; pagina <= pagine; ++pagina) {
     r.scrivi(b, pagina);

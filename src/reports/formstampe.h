@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
+#include <QSvgRenderer>
 #include <QWidget>
 #include <array>
 
@@ -18,7 +19,7 @@ class QPrinter;
 class Formstampe : public QWidget {
  public:
   Formstampe();
-  void al_caricamento();
+  void al_caricamento() {}
   void all_attivazione();
   void alla_chiusura() {}
 
@@ -29,7 +30,7 @@ class Formstampe : public QWidget {
   QScrollBar *VScroll1{}, *HScroll1{};
   QSlider* Slider1{};  // page
   QLabel *Labpag{}, *Labdi{};
-  QPixmap Pic_logo;
+  QSvgRenderer Pic_logo;                  // the practice's logo
   std::array<QPushButton*, 3> Cmdchar{};  // 1 print, 2 close
 
  protected:
@@ -47,6 +48,8 @@ class Formstampe : public QWidget {
   void scrivi_pagina();
   void stampa();
   void stampa_su(QPrinter& stampante, const Rapporto& r);
+
+  double corpo_;  // of the page's font, pixels
 };
 
 /// Opens a report afresh; a preview that stands open gives way to it.

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize finestra(546, 436);  // of the page's viewport: a whole upright page wide
+constexpr QSize finestra(626, 412);  // of the page's viewport: a whole upright page wide
 constexpr int larghezza_comandi = 110;
 
 }  // namespace
@@ -25,7 +25,7 @@ void Formstampe::disegna() {
   auto* fuori = new QVBoxLayout(this);
   fuori->setContentsMargins(4, 4, 4, 6);
   fuori->addWidget(c.box);
-  setFixedSize(sizeHint());
+  setFixedSize(larghezza_schermo, altezza_schermo);
 }
 
 QWidget* Formstampe::disegna_foglio() {

@@ -13,7 +13,7 @@ void stampa_dieta(int settimana, int giorno, Bersaglio& b);
 /// Foods of the diary with their values per 100 g, the analysis on the last page. `pagina` from 1.
 void stampa_diario(Bersaglio& b, int pagina);
 
-/// Pages of the diary list: one more than the full 25 rows.
+/// Pages of the diary list: one more than the full 25 rows; 0 for a client who was never saved.
 [[nodiscard]] int pagine_diario();
 
 /// Energy and nutrients of the diet's foods; pages 1 to 9.

@@ -55,24 +55,16 @@ void scrivi_persona(Bersaglio& b, const Studio& studio, const Riga& r) {
   righe_vuote(b, 2);
 }
 
-const Formanag& anagrafe_con_luoghi() {
-  if (!caricata<Formanag>()) {
-    schermata<Formanag>();
-    carica_cliente(0);
-  }
-  carica_luoghi();
-  return schermata<Formanag>();
-}
-
 void scrivi_recapiti(Bersaglio& b, const Riga& r) {
-  const Formanag& f = anagrafe_con_luoghi();
+  const InLettura<Formanag> f;
+  carica_luoghi();
   riga(b, u"Data di nascita:"_s, Tab{25}, r[u"data_n"]);
-  riga(b, u"Comune di nascita:"_s, Tab{25}, f.Combocom->currentText(), Tab{50}, u"Prov.:"_s, Tab{60},
-       f.comboprov->currentText());
+  riga(b, u"Comune di nascita:"_s, Tab{25}, f->Combocom->currentText(), Tab{50}, u"Prov.:"_s, Tab{60},
+       f->comboprov->currentText());
   riga(b, u"Codice Fiscale:"_s, Tab{25}, r[u"cod_fiscale"]);
   b.a_capo();
-  riga(b, u"Comune di residenza:"_s, Tab{25}, f.Combocom2->currentText(), Tab{50}, u"Prov.:"_s, Tab{60},
-       f.comboprov2->currentText(), Tab{65}, u"CAP:"_s, Tab{71}, r[u"cap"]);
+  riga(b, u"Comune di residenza:"_s, Tab{25}, f->Combocom2->currentText(), Tab{50}, u"Prov.:"_s, Tab{60},
+       f->comboprov2->currentText(), Tab{65}, u"CAP:"_s, Tab{71}, r[u"cap"]);
   riga(b, u"Località:"_s, Tab{25}, r[u"locali"]);
   riga(b, u"Indirizzo:"_s, Tab{25}, r[u"indirizzo"]);
   riga(b, u"Telefono:"_s, Tab{25}, r[u"tel1"], Tab{50}, u"Altro recapito tel.:"_s, Tab{71}, r[u"tel2"]);
@@ -107,7 +99,8 @@ void titolo(Bersaglio& b, const QString& testo) {
 }
 
 void scrivi_misure(Bersaglio& b) {
-  const Formtratta& f = schermata<Formtratta>();
+  const InLettura<Formtratta> letta;
+  const Formtratta& f = *letta;
   scrivi_misura(b, u"Date"_s, f.Text24, true);
   scrivi_misura(b, u"Peso Kg."_s, f.Text37);
   titolo(b, u"          CIRCONFERENZE cm."_s);
@@ -133,10 +126,9 @@ void stampa_dati_personali(Bersaglio& b) {
   const Studio studio = identità();
   auto cliente = cliente_salvato();
   if (!cliente) return;
-  const auto anagrafe = prima_riga(*cliente, u"anagrafe"_s);
-  if (!anagrafe) throw Errore(3021, "Nessun record corrente");
-  scrivi_persona(b, studio, *anagrafe);
-  scrivi_recapiti(b, *anagrafe);
+  const Riga anagrafe = anagrafe_di(*cliente);
+  scrivi_persona(b, studio, anagrafe);
+  scrivi_recapiti(b, anagrafe);
   riga(b, u"                       DATI ANTROPOMETRICI "_s);
   b.a_capo();
   scrivi_misure(b);

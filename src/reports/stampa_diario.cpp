@@ -9,6 +9,7 @@
 #include "reports/fonti.h"
 #include "reports/scrittori.h"
 
+#include <QFile>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -39,19 +40,13 @@ void testata(Bersaglio& b, const Riga& anagrafe) {
   righe_vuote(b, 4);
 }
 
-void testa_pasto(Bersaglio& b, std::size_t pasto) {
+void testa_pasto(Bersaglio& b, int pasto) {
+  if (pasto < 0 || pasto >= std::ssize(nomi_pasti)) throw Errore(9, "Indice fuori dai limiti");
   b.a_capo();
   b.sottolinea(true);
-  riga(b, nomi_pasti.at(pasto).toString(), Tab{60}, u"Dose g."_s, Tab{80}, u"KCal"_s, Tab{90}, u"Prot"_s, Tab{100},
-       u"Lip"_s, Tab{110}, u"Gluc"_s);
+  riga(b, nomi_pasti[static_cast<std::size_t>(pasto)].toString(), Tab{60}, u"Dose g."_s, Tab{80}, u"KCal"_s, Tab{90},
+       u"Prot"_s, Tab{100}, u"Lip"_s, Tab{110}, u"Gluc"_s);
   b.sottolinea(false);
-}
-
-Riga alimento(Archivio& diario, const Riga& scelta) {
-  auto righe = diario.righe(u"SELECT * FROM alimenti WHERE cod1 = ? AND cod2 = ?"_s, scelta[u"cod1"].toInt(),
-                            scelta[u"cod2"].toInt());
-  if (righe.empty()) throw Errore(3021, "Nessun record corrente");
-  return std::move(righe.front());
 }
 
 void scrivi_scelte(Bersaglio& b, const std::vector<Riga>& righe) {
@@ -59,9 +54,9 @@ void scrivi_scelte(Bersaglio& b, const std::vector<Riga>& righe) {
   int ultimo = -1;
   for (const Riga& r : righe) {
     const int pasto = r[u"pasto"].toInt();
-    if (pasto != ultimo) testa_pasto(b, static_cast<std::size_t>(pasto));
+    if (pasto != ultimo) testa_pasto(b, pasto);
     ultimo = pasto;
-    const Riga a = alimento(diario, r);
+    const Riga a = alimento_scelto(diario, r);
     riga(b, a[u"Descrizione"], Tab{60}, r[u"dose"], Tab{80}, a[u"calorie"], Tab{90}, a[u"protidi"], Tab{100},
          a[u"lipidi"], Tab{110}, a[u"glucidi"]);
   }
@@ -75,24 +70,30 @@ void caselle(Bersaglio& b, const QString& nome, const Formdiario& f, std::size_t
   }
 }
 
+/// Percent of the day's energy, with two decimals.
+QString quota(double energia, double kcal) {
+  if (kcal == 0) throw Errore(11, "Divisione per zero");
+  return fmt(energia / kcal * 100, "0.00");
+}
+
 /// Energy of the day by nutrient; carbohydrate takes what the others leave.
 void scrivi_analisi(Bersaglio& b, const Formdiario& f) {
   const double kcal = valore(f.TxtLivelli[23]->text());
   const double p = std::nearbyint(valore(f.TxtLivelli[22]->text()) * 4);
   const double l = std::nearbyint(valore(f.TxtLivelli[21]->text()) * 9);
-  if (kcal == 0) throw Errore(11, "Divisione per zero");
-  const QString p100 = fmt(p / kcal * 100, "0.00"), l100 = fmt(l / kcal * 100, "0.00");
   riga(b, Tab{15}, u"Colazione"_s, Tab{28}, u"Spuntino"_s, Tab{41}, u"Pranzo"_s, Tab{54}, u"Merenda"_s, Tab{67},
        u"Cena"_s, Tab{80}, u"Tot.Giorno"_s, Tab{93}, u"Tot. Kc/gg"_s, Tab{106}, u"Tot. %/gg"_s);
   b.a_capo();
   caselle(b, u"Kcal"_s, f, 3);
   riga(b, Tab{93}, f.TxtLivelli[23]->text(), Tab{106}, u"100"_s);
   caselle(b, u"Protidi g."_s, f, 2);
+  const QString p100 = quota(p, kcal), l100 = quota(l, kcal);
   riga(b, Tab{93}, p, Tab{106}, p100);
   caselle(b, u"Lipidi g."_s, f, 1);
   riga(b, Tab{93}, l, Tab{106}, l100);
   caselle(b, u"Glucidi g."_s, f, 0);
-  riga(b, Tab{93}, std::nearbyint(kcal - p - l), Tab{106}, 100 - valore(p100) - valore(l100));
+  riga(b, Tab{93}, std::nearbyint(kcal - p - l), Tab{106},
+       std::nearbyint((100 - valore(p100) - valore(l100)) * 100) / 100);
 }
 
 void scrivi_ritmo(Bersaglio& b, const Formdiario& f) {
@@ -106,17 +107,16 @@ void scrivi_ritmo(Bersaglio& b, const Formdiario& f) {
 
 }  // namespace
 
-int pagine_diario() { return pagine(scelte()); }
+int pagine_diario() { return QFile::exists(percorso_cliente()) ? pagine(scelte()) : 0; }
 
 void stampa_diario(Bersaglio& b, int pagina) {
   auto cliente = cliente_salvato();
   if (!cliente) return;
   const auto righe = scelte();
   if (righe.empty()) return;
-  const auto anagrafe = prima_riga(*cliente, u"anagrafe"_s);
-  if (!anagrafe) throw Errore(3021, "Nessun record corrente");
+  const Riga anagrafe = anagrafe_di(*cliente);
   if (pagina == 1) {
-    testata(b, *anagrafe);
+    testata(b, anagrafe);
   } else {
     b.a_capo();
   }
@@ -124,7 +124,7 @@ void stampa_diario(Bersaglio& b, int pagina) {
   scrivi_scelte(b, nella_finestra(righe, finestra(pagina)));
   if (pagina != pagine(righe)) return;
   righe_vuote(b, 2);
-  const Formdiario& f = schermata<Formdiario>();
-  scrivi_analisi(b, f);
-  scrivi_ritmo(b, f);
+  const InLettura<Formdiario> f;
+  scrivi_analisi(b, *f);
+  scrivi_ritmo(b, *f);
 }

@@ -106,16 +106,14 @@ void stampa_dieta(int settimana, int giorno, Bersaglio& b) {
   const Studio studio = identità();
   auto cliente = cliente_salvato();
   if (!cliente) return;
-  const auto anagrafe = prima_riga(*cliente, u"anagrafe"_s);
-  if (!anagrafe) throw Errore(3021, "Nessun record corrente");
+  const Riga anagrafe = anagrafe_di(*cliente);
   const auto obiettivo = prima_riga(*cliente, u"dietologica"_s);
   if (!obiettivo) return avvisa_cliente_assente();
   if (!prima_riga(*cliente, u"dieta"_s)) {
     return messaggio(u"Per stampare la dieta è prima necessario salvarla !"_s);
   }
-  const std::array persona{intero((*anagrafe)[u"peso"]), intero((*obiettivo)[u"peso_ragg"]),
-                           intero((*obiettivo)[u"gg"])};
-  testata(b, studio, *anagrafe, settimana, giorno);
+  const std::array persona{intero(anagrafe[u"peso"]), intero((*obiettivo)[u"peso_ragg"]), intero((*obiettivo)[u"gg"])};
+  testata(b, studio, anagrafe, settimana, giorno);
   const Totali totali = scrivi_pasti(
       b, cliente->righe(u"SELECT * FROM dieta WHERE dieta = ? AND giorno = ? ORDER BY rowid"_s, settimana, giorno));
   chiusa(b);

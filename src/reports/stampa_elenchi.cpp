@@ -9,9 +9,8 @@ constexpr std::array<Finestra, 9> finestre_calorie{
     {{0, 33}, {34, 70}, {71, 100}, {101, 130}, {131, 170}, {171, 200}, {201, 230}, {231, 270}, {271, 300}}};
 constexpr std::array<Finestra, 3> finestre_gruppi{{{0, 33}, {34, 73}, {74, 100}}};
 
-void testa_calorie(Bersaglio& b, int pagina) {
+void testa_calorie(Bersaglio& b, const Studio& studio, int pagina) {
   if (pagina > 1) return righe_vuote(b, 2);
-  const Studio studio = identità();
   b.all_origine();
   b.a_capo();
   riga(b, studio.nome);
@@ -20,9 +19,8 @@ void testa_calorie(Bersaglio& b, int pagina) {
   b.a_capo();
 }
 
-void testa_gruppi(Bersaglio& b, int pagina) {
+void testa_gruppi(Bersaglio& b, const Studio& studio, int pagina) {
   if (pagina > 1) return righe_vuote(b, pagina == 2 ? 2 : 4);
-  const Studio studio = identità();
   b.all_origine();
   righe_vuote(b, 2);
   riga(b, Tab{40}, u"Orzaline - SCHEDA ALIMENTI DI GRUPPI DIVERSI - DIETA MEDICALE"_s);
@@ -42,9 +40,10 @@ void scrivi_gruppo(Bersaglio& b, const QVariant& gruppo, const QVariant& aliment
 }  // namespace
 
 void stampa_calorie(Bersaglio& b, int pagina) {
+  const Studio studio = identità();
   auto alimenti = archivio_alimenti(u"sa_dieta.jed"_s);
   if (!alimenti) return;
-  testa_calorie(b, pagina);
+  testa_calorie(b, studio, pagina);
   riga(b, u"Descrizione"_s, Tab{80}, u"KCal"_s, Tab{90}, u"Prot"_s, Tab{100}, u"Lip"_s, Tab{110}, u"Gluc"_s);
   b.a_capo();
   const auto righe = alimenti->righe(u"SELECT * FROM alimenti WHERE quantità <> 0 ORDER BY cod1, cod2"_s);
@@ -55,9 +54,10 @@ void stampa_calorie(Bersaglio& b, int pagina) {
 }
 
 void stampa_gruppi(Bersaglio& b, int pagina) {
+  const Studio studio = identità();
   auto elenco = archivio_alimenti(u"gruppi_elenco.jed"_s);
   if (!elenco) return;
-  testa_gruppi(b, pagina);
+  testa_gruppi(b, studio, pagina);
   const auto righe = elenco->righe(u"SELECT gruppo, Descrizione FROM gruppi ORDER BY cont"_s);
   for (const Riga& r : nella_finestra(righe, finestre_gruppi.at(static_cast<std::size_t>(pagina - 1)))) {
     scrivi_gruppo(b, r[u"gruppo"], r[u"Descrizione"]);

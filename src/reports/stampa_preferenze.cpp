@@ -1,4 +1,3 @@
-#include "base/errori.h"
 #include "core/sessione.h"
 #include "reports/fonti.h"
 #include "reports/scrittori.h"
@@ -27,8 +26,7 @@ constexpr std::array<Pasto, 4> pasti{{
     {3, u"Pasto:Cena", u"Gruppo alimentare", [](const Riga& r) { return r[u"cena"].toBool(); }, 2},
 }};
 
-void testa(Bersaglio& b, const Riga& anagrafe) {
-  const Studio studio = identità();
+void testa(Bersaglio& b, const Studio& studio, const Riga& anagrafe) {
   b.all_origine();
   riga(b, studio.nome);
   righe_vuote(b, 4);
@@ -57,11 +55,11 @@ bool gruppo_escluso(const std::vector<Riga>& esclusi, int cod1, int cod2, int ti
 }  // namespace
 
 void stampa_preferenze(Bersaglio& b, int pagina) {
+  const Studio studio = identità();
   Archivio alimenti(percorso(u"sa_dieta.jed"_s), accesso, Archivio::Modo::sola_lettura);
   apri_dati_tmp(Scopo::salvare);
-  const auto anagrafe = prima_riga(dati_tmp(), u"anagrafe"_s);
-  if (!anagrafe) throw Errore(3021, "Nessun record corrente");
-  if (pagina == 1) testa(b, *anagrafe);
+  const Riga anagrafe = anagrafe_di(dati_tmp());
+  if (pagina == 1) testa(b, studio, anagrafe);
   const Pasto& pasto = pasti.at(static_cast<std::size_t>(pagina - 1));
   righe_vuote(b, pasto.righe_prima);
   riga(b, pasto.nome.toString(), Tab{25}, pasto.gruppi.toString(), Tab{105}, u"Esclusioni"_s);

@@ -1,5 +1,6 @@
 // The preview and the paper: pages, zoom, scrolling, and what the printer gets.
 #include "ambiente.h"
+#include "diary/formdiario.h"
 #include "reports/formstampe.h"
 
 #include <QPrinter>
@@ -77,6 +78,14 @@ TEST_F(ProvaStampe, TheSelectorFollowsTheReport) {
     EXPECT_EQ(f.Labdi->text(), c.di);
     EXPECT_EQ(f.Slider1->maximum(), c.massimo);
   }
+  EXPECT_EQ(apri(u"1"_s, u"v"_s).Labpag->isVisibleTo(caricata<Formstampe>()), false);
+  mostra<Formdiario>();
+  QTest::mouseClick(caricata<Formdiario>()->Command1, Qt::LeftButton);
+  const Formstampe& f = *caricata<Formstampe>();
+  EXPECT_EQ(f.windowTitle(), u"Elenco scelte del diario alimentare - Anteprima di stampa"_s);
+  EXPECT_EQ(f.Slider1->minimum(), 0);
+  EXPECT_EQ(f.Slider1->maximum(), 1);
+  EXPECT_FALSE(f.Slider1->isVisibleTo(&f)) << "one page";
   EXPECT_EQ(apri(u"99"_s, u"v"_s).windowTitle(), u"Anteprima di stampa"_s) << "an unknown code draws nothing";
 }
 
