@@ -48,14 +48,18 @@ constexpr std::array<Pasto, 4> pasti{{
     {u"cena", &Form_anteprima_diario::TxtCENA, &Form_anteprima_diario::TxtDOSEC},
 }};
 
+constexpr double nitidezza = 3;  // dots of the picture to a pixel
+
 void stampa_immagine(QWidget& finestra, QPrinter& p) {
   p.setFullPage(false);
   p.setPageOrientation(QPageLayout::Landscape);
+  QImage immagine(finestra.size() * nitidezza, QImage::Format_RGB32);
+  immagine.setDevicePixelRatio(nitidezza);
+  finestra.render(&immagine);
   QPainter pittore;
   if (!pittore.begin(&p)) return avvisa_stampante();
   const double scala = std::min(double(p.width()) / finestra.width(), double(p.height()) / finestra.height());
-  pittore.scale(scala, scala);
-  finestra.render(&pittore);
+  pittore.drawImage(QRectF(QPointF(), QSizeF(finestra.size()) * scala), immagine);
 }
 
 }  // namespace

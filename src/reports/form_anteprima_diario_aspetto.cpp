@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int larghezza_nome = 134, larghezza_dose = 36, larghezza_testo = 90;
+constexpr int larghezza_nome = 176, larghezza_dose = 36, larghezza_testo = 90;
 
 /// The levels' rows as the sheet lists them, with their boxes in `Text1`.
 struct Colonna {
@@ -41,9 +41,6 @@ constexpr Lista liste[]{
 void Form_anteprima_diario::disegna() {
   setObjectName(u"Form_anteprima_diario"_s);
   setWindowTitle(u"Anteprima di stampa DIARIO ALIMENTARE"_s);
-  QPalette carta = palette();
-  carta.setColor(QPalette::Window, Qt::white);
-  setPalette(carta);
   Command1 = pulsante(u"Command1"_s, u"Stampa"_s, u"Stampa il foglio come si vede"_s);
   QSizePolicy posto = Command1->sizePolicy();
   posto.setRetainSizeWhenHidden(true);

@@ -35,7 +35,6 @@ QWidget* Formstampe::disegna_foglio() {
   g->setSpacing(2);
   Picturesotto = nominato(new QFrame, u"Picturesotto"_s);
   Picturesotto->setFixedSize(finestra);
-  Picturesotto->setFrameShape(QFrame::StyledPanel);
   Picture1 = nominato(new QLabel(Picturesotto), u"Picture1"_s);
   Picture1->move(6, 4);
   VScroll1 = nominato(new QScrollBar(Qt::Vertical), u"VScroll1"_s, u"Scorri la pagina in verticale"_s);

@@ -51,7 +51,7 @@ TEST_F(ProvaStampe, AWeekIsReadDayByDayAtTwoZooms) {
   Formstampe& f = apri(u"21"_s, u"v"_s);
   EXPECT_EQ(f.windowTitle(), u"Dieta 1° settimana - Anteprima di stampa"_s);
   EXPECT_EQ(f.List1->currentRow(), 0);
-  EXPECT_EQ(f.Picture1->size(), QSize(518, 732));
+  EXPECT_EQ(f.Picture1->size(), QSize(518, 733));
   EXPECT_EQ(f.Labdi->text(), u"di 7"_s);
   EXPECT_TRUE(f.Slider1->isVisibleTo(&f) && f.Labpag->isVisibleTo(&f));
   const QImage lunedì = f.Picture1->pixmap(Qt::ReturnByValue).toImage();
@@ -106,6 +106,19 @@ TEST_F(ProvaStampe, TheCalorieListPrintsThreeLandscapeSheets) {
   const QStringList pagine = stampata();
   ASSERT_EQ(pagine.size(), 3);
   for (const QString& p : pagine) EXPECT_TRUE(p.contains(u"Gluc"_s));
+}
+
+/// The diary's pages follow on from one another, from sheet to sheet.
+TEST_F(ProvaStampe, TheDiaryFlowsOnToTheNextSheet) {
+  dati_tmp().esegui_copione(
+      u"INSERT INTO scelte_diario (pasto, cod1, cod2, dose)"
+      "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 25) SELECT i / 6, 1, 1, 100 FROM n"_s);
+  QTest::mouseClick(apri(u"8"_s, u"v"_s).Cmdchar[1], Qt::LeftButton);
+  const QStringList pagine = stampata();
+  ASSERT_EQ(pagine.size(), 2);
+  EXPECT_EQ(pagine.join(QString()).count(u"Latte intero"_s), 26);
+  EXPECT_TRUE(pagine[0].contains(u"Tot.Giorno"_s) && pagine[0].contains(u"Merenda %"_s));
+  EXPECT_TRUE(pagine[1].trimmed().startsWith(u"Cena %"_s));
 }
 
 /// Left dialog, or a file that cannot be written: one message, and the preview stays.
