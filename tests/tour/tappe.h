@@ -1,19 +1,47 @@
-// The legs of the tour.
+// The legs of the tour, in the order of a first day at the practice, and what one leg leaves for another.
 #pragma once
 
-#include <QString>
+#include "passi.h"
 
-/// A client's whole life: begun by typing, saved, found, recalled, exported, deleted and imported again.
-void vita_di_un_cliente(const QString& cartella_esporta);
+#include <QTemporaryDir>
+#include <array>
 
-/// The sample clients come in through the import.
-void importa_esempi(const QString& cartella);
+struct Viaggio {
+  QTemporaryDir lavoro, esportati;
+  QStringList nutrizione;               // weight, ration and grams of the objective
+  std::array<QStringList, 7> bersagli;  // of each day, as the activities show them: kcal, protein, fat, carbohydrate
+  std::map<int, Contenuto> letti;       // the typed client's screens, by the button of the stage
+};
 
-/// The foods of the client that is open, looked at meal by meal and left as they are.
-void scelta_degli_alimenti();
+void ingresso(Viaggio& v);
+void anagrafica(Viaggio& v);
+void personali(Viaggio& v);
+void patologica(Viaggio& v);
+void antropometria(Viaggio& v);
+void diario(Viaggio& v);
+void attività(Viaggio& v);
+void scelta_alimenti(Viaggio& v);
+void elaborazione(Viaggio& v);
+void controlli(Viaggio& v);
+void ritorno(Viaggio& v);
+void stampe(Viaggio& v);
+void rubrica(Viaggio& v);
+void agenda(Viaggio& v);
+void secondo_cliente(Viaggio& v);
+void esempi(Viaggio& v);
+void esporta_elimina_importa(Viaggio& v);
 
-/// One week of diet for a client of the archive: elaborated, reviewed, changed, saved.
-void settimana_di_dieta(const QString& cognome);
+// ---- what several legs do
 
-/// Address book and agenda.
-void ufficio();
+/// Identity, weight and work of a new client.
+struct Anagrafe {
+  QString cognome, nome, nascita, sesso, provincia, comune, peso, statura;
+};
+void nuovo_cliente(const Anagrafe& p);
+/// Finds a client by the archive's search and recalls it.
+void cerca_e_richiama(const QString& cognome);
+/// Elaborates week 1, walks its days and meals; the targets must be those of the stored activities.
+void elabora_settimana_uno(const QString& nome);
+/// The foods of week 1 are all allowed, and the obligatory ones are served on their days.
+void verifica_scelte();
+void importa_da(const QString& cartella, int quanti);
