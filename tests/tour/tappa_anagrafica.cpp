@@ -94,13 +94,13 @@ void personali(Viaggio&) {
   scegli(f.Combo17, {1, 1, 0, 1, 0, 1, 0});
   for (QCheckBox* c : {f.Check1[0], f.Check1[2], f.Check1[4], f.Check2[0], f.Check2[3]}) clic(c);
   scegli(f.Combo16, {2, 5, 0, 2, 1, 0});
-  scrivi(f.Text2[0], u"nessuna di rilievo"_s);
+  scrivi(f.Text2[0], u"nessuna"_s);
   annota(f.Cmdnote[1], u"umore altalenante dopo il secondo parto"_s);
   scrivi(f.Txtmed, u"Giovanna Neri"_s);
   scrivi(f.TxtASL, u"codice 048"_s);
   scegli(f.Combo1, {2, 3, 2, 1, 0, 1, 0, 2});
   annota(f.Command8[0], u"regolare, 28 giorni"_s, u"nota"_s);
-  for (const std::size_t i : {1U, 2U, 3U, 5U, 6U}) scrivi(f.Text23[i], u"nessuno, controllo annuale"_s);
+  for (const std::size_t i : {1U, 2U, 3U, 5U, 6U}) scrivi(f.Text23[i], u"nessuno"_s);
   verifica(f.Combo1[5]->isEnabled() && f.Combo1[7]->isEnabled(), u"a Si opens the months"_s);
   for (const auto* c : f.findChildren<QComboBox*>()) {
     verifica(!c->currentText().isEmpty(), u"a list without a choice: "_s + c->objectName());

@@ -63,6 +63,6 @@ void diario(Viaggio&) {
            u"the day is the sum of its meals"_s);
   verifica(quote == 100, u"the rhythm shares the whole day"_s);
   scegli_famiglia(f, giornata[4]);
-  scegli(f.MSFlex1, 0, 4);
+  verifica_uguali(f.MSFlex1->item(0, 5)->text(), giornata[4].grammi, u"a dose found again"_s);
   quadro(m, u"diario"_s, u"diario"_s);
 }

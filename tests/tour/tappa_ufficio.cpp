@@ -25,7 +25,7 @@ void aggiungi(const Formrubrica& f) {
   scrivi(f.Text2, u"Antonelli D'Amico"_s);
   const QLineEdit* const campi[]{f.Text3, f.Text4, f.Text5, f.Text6, f.Text7};
   const QStringList testi{u"via Nazionale Adriatica Nord 127"_s, u"Francavilla al Mare"_s, u"Chieti"_s, u"66023"_s,
-                          u"0854910000"_s};
+                          u"Italia"_s};
   for (qsizetype i = 0; i < testi.size(); ++i) scrivi(const_cast<QLineEdit*>(campi[i]), testi[i]);
   quadro(schermata<Mdiorza>(), u"rubrica_persona"_s);
   clic(f.Command5);
