@@ -38,6 +38,7 @@ constexpr Tappa tappe[]{
     {u"Elaboration", elaborazione},
     {u"Follow-up", controlli},
     {u"Saved, closed, recalled", ritorno},
+    {u"Sheets printed", stampe},
     {u"Address book", rubrica},
     {u"Agenda", agenda},
     {u"Second client", secondo_cliente},
