@@ -32,25 +32,18 @@ constexpr Stadio percorso_stadi[]{
 
 void abilita(bool si) {
   Mdiorza& m = schermata<Mdiorza>();
-  for (const Stadio& s : stadi()) m.cmdsopra[s.pulsante]->setEnabled(si && s.apri);
+  for (const Stadio& s : stadi()) m.cmdsopra[s.pulsante]->setEnabled(si);
   m.abilita_stampe(si);
 }
 
-/// The nearest stage on one side of the path (+1 onward, -1 back) whose screen is there; null where none is left.
-const Stadio* prossimo(const Stadio& da, std::ptrdiff_t passo) {
-  for (auto i = &da - percorso_stadi + passo; i >= 0 && i < std::ssize(percorso_stadi); i += passo) {
-    if (percorso_stadi[i].apri) return &percorso_stadi[i];
-  }
-  return nullptr;
-}
-
+/// One step on the path, +1 onward or -1 back; a beep at its ends.
 void muovi(std::ptrdiff_t passo) {
   const Stadio* qui = stadio(schermata<Mdiorza>().qualeform.text());
-  if (!qui || !qui->chiudi) return;
-  const Stadio* altro = prossimo(*qui, passo);
-  if (!altro) return QApplication::beep();
+  if (!qui) return;
+  const auto i = qui - percorso_stadi + passo;
+  if (i < 0 || i >= std::ssize(percorso_stadi)) return QApplication::beep();
   qui->chiudi();
-  altro->apri();
+  percorso_stadi[i].apri();
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <QString>
 #include <span>
 
-/// A stage of the path. One whose screen is not there has no `apri`, and nothing leads to it.
+/// A stage of the path.
 struct Stadio {
   int codice;
   std::size_t pulsante;  // its toolbar button
