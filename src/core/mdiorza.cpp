@@ -221,6 +221,7 @@ void Mdiorza::congeda(QWidget& schermo) {
 void Mdiorza::porta_davanti(QWidget* schermo) {
   const auto ora = figlie_.find(schermo);
   if (davanti_ == schermo || ora == figlie_.end()) return;
+  if (davanti_ == schermo || !figlie_.contains(schermo)) return;  // one loaded unseen may take the focus, no more
   const auto prima = figlie_.find(std::exchange(davanti_, schermo));
   if (prima != figlie_.end() && prima->second.disattivazione) prima->second.disattivazione();
   ora->second.attivazione();
