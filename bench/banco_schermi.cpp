@@ -2,6 +2,7 @@
 //
 //   banco_schermi [times]      (15 by default)
 #include "assessment/formattivita.h"
+#include "assessment/formpond.h"
 #include "base/archivio.h"
 #include "base/file.h"
 #include "clinic/formfunzio.h"
@@ -110,6 +111,7 @@ void schermi(int volte) {
   apri_e_chiudi<Formanag>("master data opens", "master data closes", volte);
   apri_e_chiudi<Formpers>("personal history opens", "personal history closes", volte);
   apri_e_chiudi<Formfunzio>("clinical history opens", "clinical history closes", volte);
+  apri_e_chiudi<Formpond>("weight opens", "weight closes", volte);
   apri_e_chiudi<Formdiario>("diary opens", "diary closes", volte);
   apri_e_chiudi<Formattività>("activities open", "activities close", volte);
   apri_e_chiudi<Formelabora>("elaboration opens", "elaboration closes", volte);
