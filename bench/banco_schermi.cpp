@@ -87,6 +87,18 @@ void disegna_rapporto(const char* che, const QString& codice, const QString& ver
       che, volte, [&] { f.List1->setCurrentRow(1); }, [&] { f.List1->setCurrentRow(0); });
   scarica<Formstampe>();
   dipingi();
+/// A jump by the toolbar: every screen is closed before, and those that the stage reads load with it.
+template <Schermata S>
+void salta(const char* che, int volte) {
+  const auto chiudi = [] {
+    scarica_schede();
+    dipingi();
+  };
+  tempo(che, volte, chiudi, [] {
+    mostra<S>();
+    dipingi();
+  });
+  chiudi();
 }
 
 double memoria_mb() {
@@ -118,6 +130,8 @@ void schermi(int volte) {
   apri_e_chiudi<Formrubrica>("address book opens", "address book closes", volte);
   apri_e_chiudi<Formagenda>("agenda opens", "agenda closes", volte);
   apri_e_chiudi<Formtratta>("follow-up opens", "follow-up closes", volte);
+  salta<Formpond>("jump to weight", volte);
+  salta<Formattività>("jump to activities", volte);
   mostra<Formanag>();
   riempi_cliente();
   disegna_rapporto("personal data drawn", u"1"_s, u"v"_s, volte);

@@ -120,7 +120,7 @@ void Formattività::disegna() {
 }
 
 QWidget* Formattività::disegna_settimana() {
-  const Cornice c = cornice(u"Attività della settimana"_s);
+  const Cornice c = cornice(u"Attività della settimana"_s, this);
   auto* scelta = new QVBoxLayout;
   scelta->setSpacing(3);
   QStringList nomi;
@@ -175,7 +175,7 @@ void Formattività::disegna_minuti(QGridLayout& griglia, std::size_t giorno) {
 }
 
 QWidget* Formattività::disegna_in_uso() {
-  const Cornice c = cornice(u"Percentuali di utilizzo per l'elaborazione"_s);
+  const Cornice c = cornice(u"Percentuali di utilizzo per l'elaborazione"_s, this);
   auto* corte = new QRegularExpressionValidator(QRegularExpression(u".{0,4}"_s), this);
   for (int colonna = 0; const Voce& v : pasti_del_giorno) {
     const QString nome = v.nome.toString();
@@ -199,7 +199,7 @@ QWidget* Formattività::disegna_in_uso() {
 }
 
 QWidget* Formattività::disegna_dal_diario() {
-  const Cornice c = cornice(u"Percentuali ricavate automaticamente dal diario alimentare"_s);
+  const Cornice c = cornice(u"Percentuali ricavate automaticamente dal diario alimentare"_s, this);
   for (int colonna = 0; const Voce& v : pasti_del_giorno) {
     const std::size_t i = 9 - v.pasto;
     Txt[i] = campo_calcolato(nome_indice(u"Txt", i), larghezza_percento);
@@ -217,7 +217,7 @@ QWidget* Formattività::disegna_dal_diario() {
 }
 
 QWidget* Formattività::disegna_grafico() {
-  const Cornice c = cornice({});
+  const Cornice c = cornice({}, this);
   ritmo_ = new QBarSet(u"%"_s);
   QStringList nomi;
   for (const Voce& v : pasti_del_giorno) {

@@ -126,20 +126,20 @@ class Formpond : public QWidget {
   // formpond_aspetto.cpp
   void disegna();
   QWidget* disegna_scelta();
-  QWidget* disegna_larn();
-  QWidget* disegna_hb();
-  QWidget* disegna_bfa();
-  QWidget* disegna_plico();
-  QWidget* disegna_metodi();
-  QWidget* disegna_scala();
+  QWidget* disegna_larn(QWidget* in);
+  QWidget* disegna_hb(QWidget* in);
+  QWidget* disegna_bfa(QWidget* in);
+  QWidget* disegna_plico(QWidget* in);
+  QWidget* disegna_metodi(QWidget* in);
+  QWidget* disegna_scala(QWidget* in);
   QWidget* disegna_faccia_obiettivo();
   void disegna_frecce();
-  QWidget* disegna_obiettivo();
-  QWidget* disegna_nutrienti();
+  QWidget* disegna_obiettivo(QWidget* in);
+  QWidget* disegna_nutrienti(QWidget* in);
   void disegna_nutriente(QGridLayout& griglia, std::size_t indice);
-  QWidget* disegna_livelli_eta();
-  QWidget* disegna_livelli_peso();
-  QWidget* disegna_ritorno();
+  QWidget* disegna_livelli_eta(QWidget* in);
+  QWidget* disegna_livelli_peso(QWidget* in);
+  QWidget* disegna_ritorno(QWidget* in);
   /// Title, panels and guiding sentence of a face.
   void mostra_faccia(Faccia faccia);
   /// Marks a row of `Check4` or `Option2`, or takes its mark away.

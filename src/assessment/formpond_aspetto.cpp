@@ -137,9 +137,9 @@ QFrame* fondo_scuro(std::span<QWidget* const> righe) {
 
 /// A frame of a table of levels: heads, then rows.
 template <class C, std::size_t N>
-QWidget* tabella_livelli(QGroupBox*& frame, const QString& nome, const QString& titolo, const QString& prima,
-                         const std::array<C*, N>& righe) {
-  const Cornice c = cornice(titolo);
+QWidget* tabella_livelli(QWidget* in, QGroupBox*& frame, const QString& nome, const QString& titolo,
+                         const QString& prima, const std::array<C*, N>& righe) {
+  const Cornice c = cornice(titolo, in);
   frame = nominato(c.box, nome);
   c.griglia->addLayout(teste_livelli(prima), 0, 0);
   const std::vector<QWidget*> tutte(righe.begin(), righe.end());
@@ -161,7 +161,7 @@ void Formpond::disegna() {
   facce_->addWidget(disegna_scelta());
   facce_->addWidget(disegna_faccia_obiettivo());
   fila->addLayout(facce_, 1);
-  fila->addWidget(disegna_scala());
+  fila->addWidget(disegna_scala(this));
   for (QTimer** t : {&Timer1, &Timer2, &Timer3, &Timer4, &Timer5}) {
     *t = new QTimer(this);
     (*t)->setInterval(100);
@@ -178,27 +178,27 @@ void Formpond::mostra_faccia(Faccia faccia) {
 // ---- first face
 
 QWidget* Formpond::disegna_scelta() {
-  auto* faccia = new QWidget;
+  auto* faccia = new QWidget(this);
   auto* colonna = new QVBoxLayout(faccia);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(6);
   auto* sinistra = new QVBoxLayout;
   sinistra->setSpacing(6);
-  for (QWidget* w : {disegna_larn(), disegna_hb(), disegna_bfa()}) {
+  for (QWidget* w : {disegna_larn(faccia), disegna_hb(faccia), disegna_bfa(faccia)}) {
     w->setFixedWidth(larghezza_sinistra);
     sinistra->addWidget(w);
   }
   auto* sopra = new QHBoxLayout;
   sopra->setSpacing(6);
   sopra->addLayout(sinistra);
-  sopra->addWidget(disegna_plico(), 1);
+  sopra->addWidget(disegna_plico(faccia), 1);
   colonna->addLayout(sopra, 1);
-  colonna->addWidget(disegna_metodi());
+  colonna->addWidget(disegna_metodi(faccia));
   return faccia;
 }
 
-QWidget* Formpond::disegna_larn() {
-  const Cornice c = cornice(u"Situazione secondo L.A.R.N."_s);
+QWidget* Formpond::disegna_larn(QWidget* in) {
+  const Cornice c = cornice(u"Situazione secondo L.A.R.N."_s, in);
   Frame_larn = nominato(c.box, u"Frame_larn"_s);
   Command2 = pulsante(u"Command2"_s, u"Cos'è il B. M. I. ?"_s, u"Spiega come si ricava l'indice di massa corporea"_s);
   Command2->setProperty("ruolo", u"freccia"_s);
@@ -210,8 +210,8 @@ QWidget* Formpond::disegna_larn() {
   return Frame_larn;
 }
 
-QWidget* Formpond::disegna_hb() {
-  const Cornice c = cornice(u"Situazione secondo H. Benedict"_s);
+QWidget* Formpond::disegna_hb(QWidget* in) {
+  const Cornice c = cornice(u"Situazione secondo H. Benedict"_s, in);
   Frame_hb = nominato(c.box, u"Frame_hb"_s);
   for (std::size_t i = 0; i < Text3.size(); ++i) Text3[i] = campo_numero(nome_indice(u"Text3", i));
   calcolati(Text4, u"Text4"_s);
@@ -219,8 +219,8 @@ QWidget* Formpond::disegna_hb() {
   return Frame_hb;
 }
 
-QWidget* Formpond::disegna_bfa() {
-  const Cornice c = cornice(u"Dati da Body Fat Analizer"_s);
+QWidget* Formpond::disegna_bfa(QWidget* in) {
+  const Cornice c = cornice(u"Dati da Body Fat Analizer"_s, in);
   Framebfa = nominato(c.box, u"Framebfa"_s);
   const std::array etichette{u"Peso ideale in Kg"_s, u"B. M. I. ideale"_s, u"Attuale Met. basale in Kc"_s,
                              u"Fabbisogno ideale tot. calorie"_s};
@@ -232,8 +232,8 @@ QWidget* Formpond::disegna_bfa() {
   return Framebfa;
 }
 
-QWidget* Formpond::disegna_plico() {
-  const Cornice c = cornice(u"Plicometria (Durnin)"_s);
+QWidget* Formpond::disegna_plico(QWidget* in) {
+  const Cornice c = cornice(u"Plicometria (Durnin)"_s, in);
   Frame_plico = nominato(c.box, u"Frame_plico"_s);
   c.griglia->addWidget(bassa(guida(u"Inserire i valori in mm."_s)), 0, 0, 1, 3);
   constexpr std::array<QStringView, 7> misure{u"Plica bicipitale",
@@ -265,8 +265,8 @@ QWidget* Formpond::disegna_plico() {
   return Frame_plico;
 }
 
-QWidget* Formpond::disegna_metodi() {
-  const Cornice c = cornice({});
+QWidget* Formpond::disegna_metodi(QWidget* in) {
+  const Cornice c = cornice({}, in);
   Frame_scelta = nominato(c.box, u"Frame_scelta"_s);
   LabSCELTA = nominato(guida(u"Cliccare sulla figura per selezionare il metodo voluto."_s), u"LabSCELTA"_s);
   c.griglia->addWidget(LabSCELTA, 0, 0, 2, 1);
@@ -290,8 +290,8 @@ QWidget* Formpond::disegna_metodi() {
   return Frame_scelta;
 }
 
-QWidget* Formpond::disegna_scala() {
-  const Cornice c = cornice(u"Body Mass Index"_s);
+QWidget* Formpond::disegna_scala(QWidget* in) {
+  const Cornice c = cornice(u"Body Mass Index"_s, in);
   c.box->setFixedWidth(larghezza_scala);
   constexpr int bande = int{classi_bmi.size()}, altezza = bande * altezza_banda;
   ProgressBar1 = nominato(new QProgressBar, u"ProgressBar1"_s, u"Situazione del peso"_s);
@@ -321,22 +321,22 @@ QWidget* Formpond::disegna_scala() {
 // ---- second face
 
 QWidget* Formpond::disegna_faccia_obiettivo() {
-  auto* faccia = new QWidget;
+  auto* faccia = new QWidget(this);
   auto* colonna = new QVBoxLayout(faccia);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(6);
   auto* griglia = new QGridLayout;
   griglia->setSpacing(6);
-  griglia->addWidget(disegna_obiettivo(), 0, 0);
-  griglia->addWidget(disegna_nutrienti(), 1, 0);
-  griglia->addWidget(disegna_livelli_eta(), 0, 1);
-  griglia->addWidget(disegna_livelli_peso(), 1, 1);
+  griglia->addWidget(disegna_obiettivo(faccia), 0, 0);
+  griglia->addWidget(disegna_nutrienti(faccia), 1, 0);
+  griglia->addWidget(disegna_livelli_eta(faccia), 0, 1);
+  griglia->addWidget(disegna_livelli_peso(faccia), 1, 1);
   for (QWidget* w : {Frame11, Frame12}) w->setFixedWidth(larghezza_livelli);
   griglia->setColumnStretch(0, 1);
   griglia->setRowStretch(0, 1);
   griglia->setRowStretch(1, 1);
   colonna->addLayout(griglia, 1);
-  colonna->addWidget(disegna_ritorno());
+  colonna->addWidget(disegna_ritorno(faccia));
   return faccia;
 }
 
@@ -349,8 +349,8 @@ void Formpond::disegna_frecce() {
   }
 }
 
-QWidget* Formpond::disegna_obiettivo() {
-  const Cornice c = cornice(u"Obiettivo"_s);
+QWidget* Formpond::disegna_obiettivo(QWidget* in) {
+  const Cornice c = cornice(u"Obiettivo"_s, in);
   Frame_obiettivo = nominato(c.box, u"Frame_obiettivo"_s);
   txtpesoragg = campo_numero(u"txtpesoragg"_s, u"Peso a cui arrivare, in chilogrammi"_s);
   calcolati(Text10, u"Text10"_s);
@@ -381,8 +381,8 @@ QWidget* Formpond::disegna_obiettivo() {
   return Frame_obiettivo;
 }
 
-QWidget* Formpond::disegna_nutrienti() {
-  const Cornice c = cornice(u"Livello Nutrienti di base (senza attività fisica)"_s);
+QWidget* Formpond::disegna_nutrienti(QWidget* in) {
+  const Cornice c = cornice(u"Livello Nutrienti di base (senza attività fisica)"_s, in);
   Frame_nutrienti = nominato(c.box, u"Frame_nutrienti"_s);
   const std::array teste{u"g/Kg di peso ideale"_s, u"g. totali"_s, u"Kcal"_s, u"%"_s};
   for (std::size_t i = 0; i < teste.size(); ++i) {
@@ -431,28 +431,28 @@ void Formpond::disegna_nutriente(QGridLayout& griglia, std::size_t i) {
   griglia.addLayout(coppia(CmdSU[i], CmdGIU[i]), r, 3);
 }
 
-QWidget* Formpond::disegna_livelli_eta() {
+QWidget* Formpond::disegna_livelli_eta(QWidget* in) {
   constexpr std::array<QStringView, 6> righe{
       u"   10 - 13 anni          1,55            1,10", u"   14 - 16 anni          1,30            1,10",
       u"   17 - 20 anni          1,10            1,05", u"   21 - 50 anni          1,10            1,05",
       u"   51 - 60 anni          1,10            1,00", u"       > 60 anni          1,10            1,00"};
   for (std::size_t i = 0; i < righe.size(); ++i) Check4[i] = new RigaLivello<QCheckBox>(u"Check4"_s, i, righe[i]);
-  return tabella_livelli(Frame11, u"Frame11"_s, u"Protidi e Lipidi  in base all'età (g x Kg.P.I.)"_s,
+  return tabella_livelli(in, Frame11, u"Frame11"_s, u"Protidi e Lipidi  in base all'età (g x Kg.P.I.)"_s,
                          u"Età del soggetto"_s, Check4);
 }
 
-QWidget* Formpond::disegna_livelli_peso() {
+QWidget* Formpond::disegna_livelli_peso(QWidget* in) {
   constexpr std::array<QStringView, 8> righe{
       u"Sottopeso grave       + 0,20         + 0,20",       u"Sottopeso                 + 0,20         + 0,10",
       u"Peso normale                   0                0", u"Sovrappeso lieve      + 0,10               0",
       u"Sovrappeso              + 0,15               0",    u"Obesità lieve             + 0,20          - 0,05",
       u"Obesità grave           + 0,25          - 0,10",    u"Obesità Patologica   + 0,25          - 0,10"};
   for (std::size_t i = 0; i < righe.size(); ++i) Option2[i] = new RigaLivello<QRadioButton>(u"Option2"_s, i, righe[i]);
-  return tabella_livelli(Frame12, u"Frame12"_s, u"Variazione in base alla situazione del peso"_s, {}, Option2);
+  return tabella_livelli(in, Frame12, u"Frame12"_s, u"Variazione in base alla situazione del peso"_s, {}, Option2);
 }
 
-QWidget* Formpond::disegna_ritorno() {
-  const Cornice c = cornice({});
+QWidget* Formpond::disegna_ritorno(QWidget* in) {
+  const Cornice c = cornice({}, in);
   Img_undo = nominato(new QToolButton, u"Img_undo"_s, u"Torna al quadro di scelta "_s);
   Img_undo->setIcon(icona(u"torna"_s));
   Img_undo->setIconSize({44, 40});

@@ -41,7 +41,7 @@ struct Cornice {
   QGroupBox* box;
   QGridLayout* griglia;
 };
-Cornice cornice(const QString& titolo);
+Cornice cornice(const QString& titolo, QWidget* in = nullptr);
 
 /// A label left of its control in a row of the grid, with the control as its buddy.
 QLabel* riga(QGridLayout& griglia, int riga, const QString& etichetta, QWidget* controllo, int colonna = 1);

@@ -141,7 +141,7 @@ void Formanag::disegna() {
 }
 
 QWidget* Formanag::disegna_dati() {
-  const Cornice c = cornice(u"Dati anagrafici"_s);
+  const Cornice c = cornice(u"Dati anagrafici"_s, this);
   Txtcod = campo_calcolato(u"Txtcod"_s);
   txtdatavisita = nominato(new QDateEdit, u"txtdatavisita"_s, u"Data della visita"_s);
   txtdatavisita->setCalendarPopup(true);
@@ -164,7 +164,7 @@ QWidget* Formanag::disegna_dati() {
 }
 
 QWidget* Formanag::disegna_foto() {
-  const Cornice c = cornice(u"Foto"_s);
+  const Cornice c = cornice(u"Foto"_s, this);
   picfoto = nominato(new QLabel, u"picfoto"_s);
   picfoto->setProperty("ruolo", u"valore"_s);
   picfoto->setAlignment(Qt::AlignCenter);
@@ -178,7 +178,7 @@ QWidget* Formanag::disegna_foto() {
 }
 
 QWidget* Formanag::disegna_recapiti() {
-  const Cornice c = cornice(u"Residenza e recapiti"_s);
+  const Cornice c = cornice(u"Residenza e recapiti"_s, this);
   disponi(*this, *c.griglia, recapiti);
   labcom2 = etichetta(*c.griglia, Combocom2, u"labcom2"_s);
   prepara_luoghi(comboprov2, Combocom2);
@@ -188,7 +188,7 @@ QWidget* Formanag::disegna_recapiti() {
 }
 
 QWidget* Formanag::disegna_lavoro() {
-  const Cornice c = cornice(u"Lavoro e abitudini"_s);
+  const Cornice c = cornice(u"Lavoro e abitudini"_s, this);
   disponi(*this, *c.griglia, lavoro);
   cmdhelp[0] = pulsantino(nome_indice(u"cmdhelp", 0), u"?"_s, u"Come si determina la costituzione"_s);
   cmdhelp[1] = pulsantino(nome_indice(u"cmdhelp", 1), u"?"_s, u"Schema dei tipi di lavoro"_s);
@@ -200,7 +200,7 @@ QWidget* Formanag::disegna_lavoro() {
 }
 
 QWidget* Formanag::disegna_diete() {
-  const Cornice c = cornice(u"Diete precedenti e motivo della visita"_s);
+  const Cornice c = cornice(u"Diete precedenti e motivo della visita"_s, this);
   disponi(*this, *c.griglia, diete);
   const std::array scritte{u"Tipo e durata"_s, u"Aspettative attuali"_s};
   const std::array suggerimenti{u"Tipo e durata delle diete precedenti"_s, u"Che cosa il paziente si aspetta"_s};
