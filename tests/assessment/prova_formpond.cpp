@@ -2,6 +2,7 @@
 #include "assessment/formpond.h"
 
 #include "ambiente.h"
+#include "assessment/formattivita.h"
 #include "assessment/formbmi.h"
 #include "core/sezioni.h"
 #include "intake/formanag.h"
@@ -275,6 +276,18 @@ TEST_F(ProvaPonderale, TheStageIsKeptAndThePlanOnlyAtTheSameWeight) {
   vai(3);
   EXPECT_EQ(f->Lab_txtpesoragg.text() + f->Lab_giornimodificati.text() + f->LabPROT.text() + f->LabLIP.text(), u""_s);
   EXPECT_EQ(in_grassetto(), QList<std::size_t>{2});
+}
+
+TEST_F(ProvaPonderale, WhoLeavesFromTheStageLeavesNothingLoaded) {
+  const int ferri = registra(cliente("1900_ferri"));
+  ASSERT_TRUE(richiama(registra(cliente("1300_bianchi"))));
+  for (const std::size_t pulsante : {15U, 3U}) m.cmdsopra[pulsante]->click();
+  caricata<Formpond>()->Text5[4]->setFocus();  // leaving it reads the master data
+  m.cmdsopra[0]->click();
+  EXPECT_FALSE(caricata<Formanag>() || caricata<Formpond>() || caricata<Formattività>() || esiste_dati_tmp());
+  ASSERT_TRUE(richiama(ferri));
+  m.cmdsopra[3]->click();
+  EXPECT_EQ(m.LabPesoOld.text() + u' ' + caricata<Formpond>()->Text8[0]->text(), u"74 74"_s);
 }
 
 TEST_F(ProvaPonderale, EveryClientGetsWholeColumnsOrNone) {

@@ -8,7 +8,6 @@
 #include "stampa.h"
 
 #include <gtest/gtest.h>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -145,12 +144,4 @@ TEST_F(Formule, IdealSkinfoldsCompareAgesAsText) {
                                              : u"Impossibile calcolare le pliche ideali! Il valore eccede "
                                                "il range dei valori statistici"_s);
   }
-}
-
-TEST_F(Formule, AMissingTableIsAnError) {
-  const QTemporaryDir vuota;
-  imposta_cartella(vuota.path());
-  EXPECT_THROW((void)percentuale_grasso(40, u"M", 30, avvisa), Errore);
-  EXPECT_THROW((void)pliche_ideali(13, u"100", u"M", avvisa), Errore);
-  imposta_cartella(QStringLiteral(CARTELLA_ARCHIVI));
 }

@@ -46,6 +46,17 @@ TEST_F(ProvaFinestra, AJumpPassesThroughNoStageAndEndsOnTheStagesButton) {
   EXPECT_TRUE(schermata<Formelabora>().isVisible());
 }
 
+TEST_F(ProvaFinestra, AScreenLoadedUnseenNeverComesInFront) {
+  const Fallimenti fallimenti;
+  m.hide();
+  schermata<Formelabora>();
+  m.show();  // Qt makes its frame the active one
+  mostra<Formanag>();
+  scarica<Formanag>();
+  EXPECT_EQ(fallimenti.testi, QStringList());
+  EXPECT_EQ(m.qualeform.text(), u"-1"_s);
+}
+
 TEST_F(ProvaFinestra, HelpFollowsTheStageAndTheArchive) {
   QString aperto;
   esterno().apri_documento = [&](const QString& file) { return aperto = file, true; };
