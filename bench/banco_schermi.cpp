@@ -87,6 +87,8 @@ void disegna_rapporto(const char* che, const QString& codice, const QString& ver
       che, volte, [&] { f.List1->setCurrentRow(1); }, [&] { f.List1->setCurrentRow(0); });
   scarica<Formstampe>();
   dipingi();
+}
+
 /// A jump by the toolbar: every screen is closed before, and those that the stage reads load with it.
 template <Schermata S>
 void salta(const char* che, int volte) {

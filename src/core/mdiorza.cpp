@@ -217,11 +217,11 @@ void Mdiorza::congeda(QWidget& schermo) {
   if (!rimaste.isEmpty()) porta_davanti(rimaste.last()->widget());
 }
 
-/// A frame may come in front whose screen is closed already and goes with the event at hand: that one stays out.
+/// A frame may come in front whose screen is closed already, or was loaded unseen and only took the focus: that one
+/// stays out.
 void Mdiorza::porta_davanti(QWidget* schermo) {
   const auto ora = figlie_.find(schermo);
   if (davanti_ == schermo || ora == figlie_.end()) return;
-  if (davanti_ == schermo || !figlie_.contains(schermo)) return;  // one loaded unseen may take the focus, no more
   const auto prima = figlie_.find(std::exchange(davanti_, schermo));
   if (prima != figlie_.end() && prima->second.disattivazione) prima->second.disattivazione();
   ora->second.attivazione();
