@@ -24,6 +24,7 @@ void premi(QWidget* dove, QPoint punto) {
   conta_passo();
   attiva(dove->window());
   QTest::mouseClick(dove, Qt::LeftButton, {}, punto);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);  // as between two clicks of a hand
 }
 
 void clic_in(QAbstractItemView* vista, const QModelIndex& dove) {
