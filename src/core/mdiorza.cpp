@@ -116,11 +116,8 @@ void Mdiorza::collega_regole() {
   al_clic(Command1[1], avanti);
   al_clic(Command2[0], chiedi_chiusura);
   al_clic(Command2[1], salvataggio_generale);
-  // Only a child in front counts: the switch to another program or to a box is no change of screen.
   connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* finestra) {
-    if (finestra && !ospitando_ && figlie_.contains(finestra->widget())) {  // not one that is closing
-      esegui_regola([&] { porta_davanti(finestra->widget()); });
-    }
+    if (finestra && !ospitando_ && davanti_) QTimer::singleShot(0, this, [this] { tieni_davanti(); });
   });
 }
 
@@ -198,6 +195,7 @@ void Mdiorza::ospita(QWidget& schermo, const RegoleFiglia& regole) {
   finestra->show();
   schermo.show();
   area_->setActiveSubWindow(finestra);
+  finestra->raise();
   ospitando_ = false;
   porta_davanti(&schermo);
 }
@@ -217,12 +215,20 @@ void Mdiorza::congeda(QWidget& schermo) {
   if (!rimaste.isEmpty()) porta_davanti(rimaste.last()->widget());
 }
 
-/// A frame may come in front whose screen is closed already, or was loaded unseen and only took the focus: that one
-/// stays out.
+/// The area picks a frame of its own, unseen ones included, when a frame goes or the user comes back from another
+/// program: the screen that stood in front stays there.
+void Mdiorza::tieni_davanti() {
+  auto* finestra = davanti_ ? qobject_cast<QMdiSubWindow*>(davanti_->parentWidget()) : nullptr;
+  if (!finestra) return;
+  ospitando_ = true;
+  area_->setActiveSubWindow(finestra);
+  finestra->raise();
+  ospitando_ = false;
+}
+
 void Mdiorza::porta_davanti(QWidget* schermo) {
-  const auto ora = figlie_.find(schermo);
-  if (davanti_ == schermo || ora == figlie_.end()) return;
+  if (davanti_ == schermo) return;
   const auto prima = figlie_.find(std::exchange(davanti_, schermo));
   if (prima != figlie_.end() && prima->second.disattivazione) prima->second.disattivazione();
-  ora->second.attivazione();
+  figlie_.at(schermo).attivazione();
 }

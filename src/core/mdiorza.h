@@ -76,10 +76,11 @@ class Mdiorza : public QMainWindow {
   void ospita(QWidget& schermo, const RegoleFiglia& regole);
   void congeda(QWidget& schermo);
   void porta_davanti(QWidget* schermo);
+  void tieni_davanti();
 
   QMdiArea* area_{};
   std::map<QWidget*, RegoleFiglia> figlie_;
-  QWidget* davanti_{};      // the active child
+  QWidget* davanti_{};      // the child in front
   bool ospitando_ = false;  // a child comes or goes by our own hand
   QString guida_;           // the help document last shown
 };

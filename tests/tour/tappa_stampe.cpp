@@ -3,6 +3,8 @@
 #include "reports/formstampe.h"
 #include "tappe.h"
 
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPrinter>
 #include <QProcess>
 
@@ -60,6 +62,8 @@ void stampa(Mdiorza& m, const Foglio& foglio) {
   scegli_voce(m, foglio.voce.toString());
   pretendi(caricata<Formstampe>() != nullptr, u"the preview opens: "_s + nome);
   const auto& f = schermata<Formstampe>();
+  QTest::qWait(50);  // the popup gives the activation back
+  verifica(m.findChild<QMdiArea*>()->activeSubWindow() == f.parentWidget(), u"the preview is in front: "_s + nome);
   quadro(m, u"anteprima_"_s + nome, nome == u"dieta" ? u"anteprima"_s : QString());
   clic(f.Cmdchar[1]);
   clic(f.Cmdchar[2]);
