@@ -62,8 +62,8 @@ void stampa(Mdiorza& m, const Foglio& foglio) {
   scegli_voce(m, foglio.voce.toString());
   pretendi(caricata<Formstampe>() != nullptr, u"the preview opens: "_s + nome);
   const auto& f = schermata<Formstampe>();
-  QTest::qWait(50);  // the popup gives the activation back
-  verifica(m.findChild<QMdiArea*>()->activeSubWindow() == f.parentWidget(), u"the preview is in front: "_s + nome);
+  const auto in_fronte = [&] { return m.findChild<QMdiArea*>()->activeSubWindow() == f.parentWidget(); };
+  verifica(QTest::qWaitFor(in_fronte, 2000), u"the preview is in front: "_s + nome);  // once the popup has gone
   quadro(m, u"anteprima_"_s + nome, nome == u"dieta" ? u"anteprima"_s : QString());
   clic(f.Cmdchar[1]);
   clic(f.Cmdchar[2]);
