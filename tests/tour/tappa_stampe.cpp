@@ -62,6 +62,7 @@ void stampa(Mdiorza& m, const Foglio& foglio) {
   scegli_voce(m, foglio.voce.toString());
   pretendi(caricata<Formstampe>() != nullptr, u"the preview opens: "_s + nome);
   const auto& f = schermata<Formstampe>();
+  QTest::qWait(200);  // the popup gives the activation back
   const auto in_fronte = [&] { return m.findChild<QMdiArea*>()->activeSubWindow() == f.parentWidget(); };
   verifica(QTest::qWaitFor(in_fronte, 2000), u"the preview is in front: "_s + nome);  // once the popup has gone
   quadro(m, u"anteprima_"_s + nome, nome == u"dieta" ? u"anteprima"_s : QString());
