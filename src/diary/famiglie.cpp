@@ -1,5 +1,7 @@
 #include "diary/famiglie.h"
 
+#include "base/pasti.h"
+
 #include <algorithm>
 #include <array>
 
@@ -72,7 +74,11 @@ std::vector<Alimento> leggi(const QString& file) {
 }  // namespace
 
 const QStringList& pasti_diario() {
-  static const QStringList p{u"Colazione"_s, u"Spuntino"_s, u"Pranzo"_s, u"Merenda"_s, u"Cena"_s};
+  static const QStringList p = [] {
+    QStringList nomi;
+    for (const QStringView nome : nomi_pasti) nomi << nome.toString();
+    return nomi;
+  }();
   return p;
 }
 

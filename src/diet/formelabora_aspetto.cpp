@@ -1,3 +1,4 @@
+#include "base/pasti.h"
 #include "core/aspetto.h"
 #include "core/schermate.h"
 #include "diet/formelabora.h"
@@ -67,10 +68,10 @@ QWidget* Formelabora::disegna_scelte() {
   List1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   sotto(etichetta_di(u"giorno:"_s, List1));
   sotto(List1);
-  const std::array nomi{u"Colazione"_s, u"Spuntino"_s, u"Pranzo"_s, u"Merenda"_s, u"Cena"_s};
   sotto(new QLabel(u"pasto:"_s));
   for (std::size_t i = 0; i < Option1.size(); ++i) {
-    Option1[i] = nominato(new QRadioButton(nomi[i]), nome_indice(u"Option1", i), u"Pasto da mostrare"_s);
+    Option1[i] =
+        nominato(new QRadioButton(nomi_pasti[i].toString()), nome_indice(u"Option1", i), u"Pasto da mostrare"_s);
     sotto(Option1[i]);
   }
   c.griglia->setRowStretch(riga_griglia++, 1);

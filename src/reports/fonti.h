@@ -1,13 +1,9 @@
-// What several sheets read: the practice's identity, the client's saved file, the names of the meals.
+// What several sheets read: the practice's identity, the client's saved file.
 #pragma once
 
 #include "base/archivio.h"
 
-#include <QStringView>
-#include <array>
 #include <optional>
-
-inline constexpr std::array<QStringView, 5> nomi_pasti{u"Colazione", u"Spuntino", u"Pranzo", u"Merenda", u"Cena"};
 
 /// The practice's name, title and address, as the sheets' heads name them.
 struct Studio {

@@ -7,6 +7,7 @@
 #include "reports/fonti.h"
 #include "reports/scrittori.h"
 
+#include <array>
 #include <span>
 
 using namespace Qt::StringLiterals;

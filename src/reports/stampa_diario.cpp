@@ -1,6 +1,7 @@
 #include "base/date.h"
 #include "base/errori.h"
 #include "base/numeri.h"
+#include "base/pasti.h"
 #include "core/dialoghi.h"
 #include "core/programma.h"
 #include "core/schermate.h"

@@ -1,6 +1,8 @@
 #include "reports/fonti.h"
 #include "reports/scrittori.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace {

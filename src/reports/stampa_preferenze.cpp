@@ -3,6 +3,7 @@
 #include "reports/scrittori.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
