@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# All proofs with their full counts, one after the other; `./check --prove` calls this. Writes the table of results to
+# build/prove/risultati.md and stops at the first proof that fails.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/../.."
+
+# program, sanitized or not, counts; about how long it takes
+prove=(
+  'release uccisioni    3000'       # 8 min
+  'release disco_pieno  300'        # 1 min
+)
+
+for preset in release asan; do
+  mapfile -t bersagli < <(printf '%s\n' "${prove[@]}" | awk -v p=$preset '$1 == p { print "prova_" $2 }')
+  ((${#bersagli[@]})) || continue
+  cmake --preset $preset > /dev/null
+  cmake --build --preset $preset --target "${bersagli[@]}" -j "$(nproc)"
+done
+
+mkdir -p build/prove
+tabella=build/prove/risultati.md
+printf '| what | how many | result | time |\n|---|---|---|---|\n' > $tabella
+for riga in "${prove[@]}"; do
+  read -r preset nome conti <<< "$riga"
+  printf '== %s (%s): %s\n' "$nome" "$preset" "$conti"
+  # shellcheck disable=SC2086
+  ASAN_OPTIONS=detect_leaks=0 build/$preset/tests/prove/prova_"$nome" $conti | tee >(grep '^| ' >> $tabella)
+done
+printf '\n' && cat $tabella
+printf 'All proofs passed in %d s.\n' $SECONDS
