@@ -16,12 +16,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString suffisso = u".nuovo"_s;
+
+/// The temporary file is called by the name of the one that it was to become.
 [[noreturn]] void fallisci(int causa, const QString& file) {
-  const int numero = causa == ENOENT                      ? 53
-                     : causa == ENOSPC || causa == EDQUOT ? 61
-                     : causa == EACCES || causa == EPERM  ? 70
-                                                          : 57;
-  throw Errore(numero, QFile::encodeName(file).toStdString() + ": " + std::strerror(causa));
+  QString nome = QFileInfo(file).fileName();
+  if (nome.endsWith(suffisso)) nome.chop(suffisso.size());
+  const std::string tra_apici = '\'' + nome.toStdString() + '\'';
+  switch (causa) {
+    case ENOENT: throw Errore(53, "Impossibile trovare " + tra_apici + '.');
+    case EACCES:
+    case EPERM: throw Errore(70, "Manca il permesso di scrivere o leggere " + tra_apici + '.');
+    case ENOSPC:
+    case EDQUOT: throw Errore(61, "Spazio su disco insufficiente per " + tra_apici + ". " + salvati_intatti);
+    default: throw Errore(57, "Errore del disco su " + tra_apici + ": " + std::strerror(causa) + '.');
+  }
 }
 
 /// A file descriptor that closes itself.
@@ -50,45 +59,59 @@ class Descrittore {
   int fd_;
 };
 
-void copia_contenuto(const Descrittore& da, const QString& nome_da, const Descrittore& a, const QString& nome_a) {
+void scrivi(const Descrittore& a, const QString& nome, const char* dati, qint64 quanti) {
+  for (qint64 fatti = 0; fatti < quanti;) {
+    const ssize_t scritti = ::write(a.fd(), dati + fatti, static_cast<std::size_t>(quanti - fatti));
+    if (scritti < 0) fallisci(errno, nome);
+    fatti += scritti;
+  }
+}
+
+void copia_contenuto(const QString& da, const Descrittore& a, const QString& nome_a) {
+  const Descrittore origine(da, O_RDONLY);
   std::array<char, 1 << 16> blocco;
   for (;;) {
-    const ssize_t letti = ::read(da.fd(), blocco.data(), blocco.size());
+    const ssize_t letti = ::read(origine.fd(), blocco.data(), blocco.size());
     if (letti == 0) return;
-    if (letti < 0) fallisci(errno, nome_da);
-    for (ssize_t fatti = 0; fatti < letti;) {
-      const ssize_t scritti = ::write(a.fd(), blocco.data() + fatti, static_cast<std::size_t>(letti - fatti));
-      if (scritti < 0) fallisci(errno, nome_a);
-      fatti += scritti;
-    }
+    if (letti < 0) fallisci(errno, da);
+    scrivi(a, nome_a, blocco.data(), letti);
   }
 }
 
 QString giornale(const QString& file) { return file + u"-journal"_s; }
 
-/// A journal left beside the old file would be played back into the new one.
-void scambia(const QString& provvisorio, const QString& a) {
-  QFile::remove(giornale(a));
-  if (::rename(QFile::encodeName(provvisorio).constData(), QFile::encodeName(a).constData()) != 0) fallisci(errno, a);
-  const Descrittore cartella(QFileInfo(a).absolutePath(), O_RDONLY | O_DIRECTORY);
-  if (::fsync(cartella.fd()) != 0) fallisci(errno, a);
+/// `riempi` writes the temporary file that then takes the place of `a`.
+template <class F>
+void rimpiazza(const QString& a, F&& riempi) {
+  const QString provvisorio = a + suffisso;
+  try {
+    Descrittore nuovo(provvisorio, O_WRONLY | O_CREAT | O_TRUNC);
+    riempi(nuovo, provvisorio);
+    nuovo.al_disco();
+    nuovo.chiudi();
+    QFile::remove(giornale(a));  // left there, it would be played back into the new file
+    rinomina(provvisorio, a);
+  } catch (const Errore&) {
+    QFile::remove(provvisorio);
+    throw;
+  }
 }
 
 }  // namespace
 
 void sostituisci_file(const QString& da, const QString& a) {
-  const QString provvisorio = a + u".nuovo"_s;
-  try {
-    const Descrittore origine(da, O_RDONLY);
-    Descrittore copia(provvisorio, O_WRONLY | O_CREAT | O_TRUNC);
-    copia_contenuto(origine, da, copia, provvisorio);
-    copia.al_disco();
-    copia.chiudi();
-    scambia(provvisorio, a);
-  } catch (const Errore&) {
-    QFile::remove(provvisorio);
-    throw;
-  }
+  rimpiazza(a, [&](const Descrittore& nuovo, const QString& nome) { copia_contenuto(da, nuovo, nome); });
+}
+
+void scrivi_file(const QByteArray& dati, const QString& a) {
+  rimpiazza(a,
+            [&](const Descrittore& nuovo, const QString& nome) { scrivi(nuovo, nome, dati.constData(), dati.size()); });
+}
+
+void rinomina(const QString& da, const QString& a) {
+  if (::rename(QFile::encodeName(da).constData(), QFile::encodeName(a).constData()) != 0) fallisci(errno, a);
+  const Descrittore cartella(QFileInfo(a).absolutePath(), O_RDONLY | O_DIRECTORY);
+  if (::fsync(cartella.fd()) != 0) fallisci(errno, a);
 }
 
 void elimina_archivio(const QString& file) {
