@@ -12,6 +12,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 #include <map>
 
 using namespace Qt::StringLiterals;
@@ -141,6 +142,7 @@ const QVariant& Riga::operator[](QStringView campo) const {
 struct Archivio::Dentro {
   QString file;
   SQLite::Database base;
+  bool in_transazione = false;
 };
 
 Archivio::Archivio(const QString& file, QStringView connessione, Modo modo) {
@@ -231,6 +233,8 @@ void Archivio::scorri(const QString& sql, const std::function<void(const Cursore
 }
 
 void Archivio::transazione(const std::function<void()>& scritture) {
+  if (d_->in_transazione) return scritture();
+  const QScopedValueRollback fino_in_fondo(d_->in_transazione, true);
   try {
     SQLite::Transaction t(d_->base);
     scritture();

@@ -56,10 +56,12 @@ void carica_lista(Formfunzio& f, const QString& tabella, const std::vector<Sezio
 
 void salva_funzionale() {
   const Formfunzio& f = schermata<Formfunzio>();
-  salva_esami(f);
-  salva_lista(f, u"farmaci"_s, sezioni_farmaci());
-  salva_lista(f, u"pressione"_s, sezioni_pressione());
-  salva_riga(dati_tmp(), u"Anamnesi"_s, leggi_controlli(f, sezione_anamnesi()));
+  dati_tmp().transazione([&] {
+    salva_esami(f);
+    salva_lista(f, u"farmaci"_s, sezioni_farmaci());
+    salva_lista(f, u"pressione"_s, sezioni_pressione());
+    salva_riga(dati_tmp(), u"Anamnesi"_s, leggi_controlli(f, sezione_anamnesi()));
+  });
 }
 
 void carica_funzionale() {
