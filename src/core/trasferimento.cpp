@@ -60,15 +60,19 @@ std::optional<std::int16_t> numero_per(std::int16_t cod) {
   return {};
 }
 
-/// Copies the client into a folder of its own; where that fails nothing of it stays.
+/// Copies the client into a folder of its own. It grows under another name: where the copy fails or is cut short, no
+/// folder stands in the way of the next import, and no client under another's number.
 void porta_dentro(const QString& origine, const QString& cartella, const QString& file, std::int16_t cod) {
-  if (!QDir().mkdir(cartella)) throw Errore(75, "Impossibile creare la cartella " + cartella.toStdString());
+  QDir nuova(percorso(u"importazione.nuova"_s));
+  nuova.removeRecursively();  // of an import that was cut short
+  if (!QDir().mkdir(nuova.path())) throw Errore(75, "Impossibile creare la cartella " + nuova.path().toStdString());
   try {
-    sostituisci_file(origine, file);
-    scrivi_cod_importato(file, cod);
+    const QString copia = nuova.filePath(file);
+    sostituisci_file(origine, copia);
+    scrivi_cod_importato(copia, cod);
+    rinomina(nuova.path(), cartella);
   } catch (const Errore&) {
-    elimina_archivio(file);
-    QDir().rmdir(cartella);
+    nuova.removeRecursively();
     throw;
   }
 }
@@ -86,7 +90,7 @@ Esito importa(const QString& origine, const Copia& in_corso) {
   iscrivi({*cod, straniero->cognome, file});
   if (QDir(cartella).exists()) return Esito::avanti;
   if (in_corso) in_corso(true);
-  porta_dentro(origine, cartella, file, *cod);
+  porta_dentro(origine, cartella, QFileInfo(file).fileName(), *cod);
   return Esito::avanti;
 }
 
