@@ -12,6 +12,7 @@
 #include "core/sessione.h"
 #include "core/sezioni.h"
 #include "reports/fonti.h"
+#include "reports/stampante_o_file.h"
 
 #include <QPainter>
 #include <QPrinter>
@@ -56,10 +57,12 @@ void stampa_immagine(QWidget& finestra, QPrinter& p) {
   QImage immagine(finestra.size() * nitidezza, QImage::Format_RGB32);
   immagine.setDevicePixelRatio(nitidezza);
   finestra.render(&immagine);
-  QPainter pittore;
-  if (!pittore.begin(&p)) return avvisa_stampante();
-  const double scala = std::min(double(p.width()) / finestra.width(), double(p.height()) / finestra.height());
-  pittore.drawImage(QRectF(QPointF(), QSizeF(finestra.size()) * scala), immagine);
+  stampa_o_scrivi(p, [&](QPagedPaintDevice& carta) {
+    QPainter pittore;
+    if (!pittore.begin(&carta)) throw Errore(482, "Errore della stampante");
+    const double scala = std::min(double(carta.width()) / finestra.width(), double(carta.height()) / finestra.height());
+    pittore.drawImage(QRectF(QPointF(), QSizeF(finestra.size()) * scala), immagine);
+  });
 }
 
 }  // namespace
@@ -120,6 +123,6 @@ void Form_anteprima_diario::riempi_alimenti() {
 
 void Form_anteprima_diario::stampa() {
   Command1->hide();
-  stampa_immagine(*this, stampante());
+  if (!prosegui([&] { stampa_immagine(*this, stampante()); })) avvisa_stampante();
   Command1->show();
 }

@@ -7,6 +7,7 @@
 #include "core/schermate.h"
 #include "reports/foglio_dipinto.h"
 #include "reports/fonti.h"
+#include "reports/stampante_o_file.h"
 
 #include <QPrinter>
 #include <algorithm>
@@ -138,20 +139,24 @@ void Formstampe::stampa() {
   }
 }
 
-/// Upright sheets begin 1 cm from the left and 3 cm from the top of the paper, landscape ones 1 cm from both; 1 cm
-/// stays free at the foot.
 void Formstampe::stampa_su(QPrinter& p, const Rapporto& r) {
   p.setFullPage(true);
   p.setPageOrientation(r.orizzontale ? QPageLayout::Landscape : QPageLayout::Portrait);
+  stampa_o_scrivi(p, [&](QPagedPaintDevice& carta) { dipingi(carta, r); });
+}
+
+/// Upright sheets begin 1 cm from the left and 3 cm from the top of the paper, landscape ones 1 cm from both; 1 cm
+/// stays free at the foot.
+void Formstampe::dipingi(QPagedPaintDevice& carta, const Rapporto& r) {
   QPainter pittore;
-  if (!pittore.begin(&p)) throw Errore(482, "Errore della stampante");
-  const double dpi = p.logicalDpiY(), cm = dpi / pollice;
+  if (!pittore.begin(&carta)) throw Errore(482, "Errore della stampante");
+  const double dpi = carta.logicalDpiY(), cm = dpi / pollice;
   const QPointF origine(cm, r.orizzontale ? cm : 3 * cm);
   const QSizeF logo = logo_intero * (dpi / (72 * punto));
   const auto nuovo = [&] {
-    if (!p.newPage()) throw Errore(482, "Errore della stampante");
+    if (!carta.newPage()) throw Errore(482, "Errore della stampante");
   };
-  FoglioDipinto b(pittore, {corpo_su_carta / 72 * dpi, origine, {}, logo, p.height() - origine.y() - cm}, Pic_logo,
+  FoglioDipinto b(pittore, {corpo_su_carta / 72 * dpi, origine, {}, logo, carta.height() - origine.y() - cm}, Pic_logo,
                   nuovo);
   const int pagine = r.stampate ? r.stampate : std::max(1, Slider1->maximum());
   for (int pagina = 1; pagina <= pagine; ++pagina) {

@@ -14,6 +14,7 @@
 #include <QWidget>
 #include <array>
 
+class QPagedPaintDevice;
 class QPrinter;
 
 class Formstampe : public QWidget {
@@ -48,6 +49,7 @@ class Formstampe : public QWidget {
   void scrivi_pagina();
   void stampa();
   void stampa_su(QPrinter& stampante, const Rapporto& r);
+  void dipingi(QPagedPaintDevice& carta, const Rapporto& r);
 
   double corpo_;  // of the page's font, pixels
 };
