@@ -6,6 +6,8 @@
 #include <QString>
 #include <functional>
 
+class Archivio;
+
 namespace prove {
 
 /// Ends the proof with 1: what the user was promised does not hold.
@@ -20,6 +22,9 @@ int quante(int argc, char** argv, int posto, int predefinite);
 /// Offscreen, unbuffered, and the one way out of a proof whose promise does not hold.
 int esegui(const std::function<void()>& prova);
 
+/// Fails the proof unless a store passes the engine's check and reads in full.
+void sano(Archivio& a, const QString& file);
+
 /// A state of the client's file is one number, the same in the master data and in 900 rows of diet: a mixture shows.
 void scrivi_stato(int stato);
 
@@ -32,6 +37,9 @@ int verifica(const QString& cartella);
 
 /// The program's stores and client 1, BIANCHI, saved in state 1.
 void prepara(const QString& cartella);
+
+/// In a child: the banner of client 1 in the elaboration, every question answered as below.
+void prendi_banner();
 
 /// In a child: the client open in the elaboration, every question answered with yes, "new client?" with no.
 void apri_cliente(const QString& cartella);
