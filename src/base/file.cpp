@@ -7,9 +7,9 @@
 #include <unistd.h>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -18,19 +18,33 @@ namespace {
 
 const QString suffisso = u".nuovo"_s;
 
+/// What the user reads of a cause, whatever language the system speaks.
+struct Guasto {
+  int causa;  // errno
+  int numero;
+  const char* dice;
+  const char* aggiunge = "";
+};
+constexpr Guasto guasti[]{
+    {ENOENT, 53, "Impossibile trovare il file"},
+    {ENOTDIR, 53, "Impossibile trovare il file"},
+    {ENAMETOOLONG, 52, "Il nome è troppo lungo per un file:"},
+    {ENOSPC, 61, "Spazio su disco insufficiente per il file", salvati_intatti},
+    {EDQUOT, 61, "Spazio su disco insufficiente per il file", salvati_intatti},
+    {EACCES, 70, "Autorizzazione negata per il file"},
+    {EPERM, 70, "Autorizzazione negata per il file"},
+    {EROFS, 70, "Autorizzazione negata per il file"},
+};
+
 /// The temporary file is called by the name of the one that it was to become.
 [[noreturn]] void fallisci(int causa, const QString& file) {
-  QString nome = QFileInfo(file).fileName();
-  if (nome.endsWith(suffisso)) nome.chop(suffisso.size());
-  const std::string tra_apici = '\'' + nome.toStdString() + '\'';
-  switch (causa) {
-    case ENOENT: throw Errore(53, "Impossibile trovare " + tra_apici + '.');
-    case EACCES:
-    case EPERM: throw Errore(70, "Manca il permesso di scrivere o leggere " + tra_apici + '.');
-    case ENOSPC:
-    case EDQUOT: throw Errore(61, "Spazio su disco insufficiente per " + tra_apici + ". " + salvati_intatti);
-    default: throw Errore(57, "Errore del disco su " + tra_apici + ": " + std::strerror(causa) + '.');
+  const QString vero = file.endsWith(suffisso) ? file.chopped(suffisso.size()) : file;
+  const std::string nome = " '" + vero.toStdString() + "'";
+  const auto g = std::ranges::find(guasti, causa, &Guasto::causa);
+  if (g == std::end(guasti)) {
+    throw Errore(57, "Errore del disco sul file" + nome + " (codice del sistema " + std::to_string(causa) + ").");
   }
+  throw Errore(g->numero, g->dice + nome + ". " + g->aggiunge);
 }
 
 /// A file descriptor that closes itself.
@@ -62,8 +76,8 @@ class Descrittore {
 void scrivi(const Descrittore& a, const QString& nome, const char* dati, qint64 quanti) {
   for (qint64 fatti = 0; fatti < quanti;) {
     const ssize_t scritti = ::write(a.fd(), dati + fatti, static_cast<std::size_t>(quanti - fatti));
-    if (scritti < 0) fallisci(errno, nome);
-    fatti += scritti;
+    if (scritti < 0 && errno != EINTR) fallisci(errno, nome);
+    if (scritti > 0) fatti += scritti;
   }
 }
 
@@ -73,6 +87,7 @@ void copia_contenuto(const QString& da, const Descrittore& a, const QString& nom
   for (;;) {
     const ssize_t letti = ::read(origine.fd(), blocco.data(), blocco.size());
     if (letti == 0) return;
+    if (letti < 0 && errno == EINTR) continue;
     if (letti < 0) fallisci(errno, da);
     scrivi(a, nome_a, blocco.data(), letti);
   }

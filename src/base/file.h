@@ -8,8 +8,8 @@
 inline constexpr const char* salvati_intatti = "I dati già salvati restano come erano.";
 
 /// Copies `da` over `a`: a temporary file in the same folder is written, checked, flushed to the disk and renamed.
-/// Throws Errore (53 no such file, 61 disk full, 70 permission, 57 any other) and leaves `a` as it was.
-/// No handle of this process may be open on either file.
+/// Throws Errore (52 name too long, 53 no such file, 61 disk full, 70 permission, 57 any other), in Italian, and leaves
+/// `a` as it was. No handle of this process may be open on either file.
 void sostituisci_file(const QString& da, const QString& a);
 
 /// Writes `dati` over `a` in the same way, with the same errors.
