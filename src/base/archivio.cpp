@@ -48,7 +48,7 @@ enum Codice {
     case bloccato: throw Errore(3218, "Impossibile aggiornare, il file '" + nome + "' è bloccato.");
     case sola_lettura: throw Errore(3027, "Impossibile aggiornare, il file '" + nome + "' è di sola lettura.");
     case io: throw Errore(3043, "Errore del disco sul file '" + nome + "'.");
-    case pieno: throw Errore(3026, "Spazio su disco insufficiente per '" + nome + "'. " + salvati_intatti);
+    case pieno: throw Errore(3026, "Spazio su disco insufficiente per '" + nome + "'." + salvati_intatti);
     case vincolo: throw Errore(3022, "Valori duplicati o non ammessi in '" + nome + "': " + dice);
     case corrotto:
     case non_archivio:

@@ -44,7 +44,7 @@ constexpr Guasto guasti[]{
   if (g == std::end(guasti)) {
     throw Errore(57, "Errore del disco sul file" + nome + " (codice del sistema " + std::to_string(causa) + ").");
   }
-  throw Errore(g->numero, g->dice + nome + ". " + g->aggiunge);
+  throw Errore(g->numero, g->dice + nome + '.' + g->aggiunge);
 }
 
 /// A file descriptor that closes itself.
@@ -127,6 +127,11 @@ void rinomina(const QString& da, const QString& a) {
   if (::rename(QFile::encodeName(da).constData(), QFile::encodeName(a).constData()) != 0) fallisci(errno, a);
   const Descrittore cartella(QFileInfo(a).absolutePath(), O_RDONLY | O_DIRECTORY);
   if (::fsync(cartella.fd()) != 0) fallisci(errno, a);
+}
+
+bool sparito(const QString& file) {
+  struct stat s {};
+  return ::stat(QFile::encodeName(file).constData(), &s) != 0 && (errno == ENOENT || errno == ENOTDIR);
 }
 
 void elimina_archivio(const QString& file) {

@@ -5,7 +5,7 @@
 #include <QString>
 
 /// What the message of a full disk says beside the cause: no write takes the place of saved data before it is whole.
-inline constexpr const char* salvati_intatti = "I dati già salvati restano come erano.";
+inline constexpr const char* salvati_intatti = " I dati già salvati restano come erano.";
 
 /// Copies `da` over `a`: a temporary file in the same folder is written, checked, flushed to the disk and renamed.
 /// Throws Errore (52 name too long, 53 no such file, 61 disk full, 70 permission, 57 any other), in Italian, and leaves
@@ -17,6 +17,9 @@ void scrivi_file(const QByteArray& dati, const QString& a);
 
 /// Gives a file or a folder another name on the same disk, and waits until the disk knows it. Throws Errore.
 void rinomina(const QString& da, const QString& a);
+
+/// True where a file is surely not there; one that cannot be reached is not gone.
+[[nodiscard]] bool sparito(const QString& file);
 
 /// Deletes a store and the engine's journal beside it. Throws Errore 70 where it stays; a missing file is no error.
 void elimina_archivio(const QString& file);

@@ -1,14 +1,13 @@
 #include "core/registro.h"
 
 #include "base/errori.h"
+#include "base/file.h"
 #include "base/numeri.h"
 #include "core/attesa.h"
 #include "core/formsched.h"
 #include "core/messaggi.h"
 #include "core/schermate.h"
 #include "core/sessione.h"
-
-#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +23,7 @@ bool appartiene(const QString& cognome, int tab) {
 
 /// True, after a box, for a client whose file is gone: the row goes too.
 bool perduto(const Iscritto& i) {
-  if (QFile::exists(i.file)) return false;
+  if (!sparito(i.file)) return false;
   messaggio(
       u"La cartella di "_s + i.cognome + u" è stata danneggiata\nmodificata o altro, i suoi dati andranno persi !"_s,
       u"Orzaline  control"_s, Icona::critica);
@@ -72,7 +71,7 @@ std::int16_t cod_libero() { return round16(prossimo_cod()); }
 
 void pulisci_schedario() {
   for (const Iscritto& i : iscritti()) {
-    if (!QFile::exists(i.file)) cancella_iscritto(i.cod);
+    if (sparito(i.file)) cancella_iscritto(i.cod);
   }
 }
 
