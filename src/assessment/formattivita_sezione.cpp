@@ -3,6 +3,7 @@
 #include "assessment/formattivita.h"
 #include "base/errori.h"
 #include "base/numeri.h"
+#include "core/salva_carica.h"
 #include "core/schermate.h"
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
@@ -36,8 +37,7 @@ void salva_sport() { salva_riga(dati_tmp(), u"sport"_s, leggi_controlli(schermat
 /// The last day with an activity gives the list its choice, and all minutes then count with that one.
 void carica_sport() {
   auto& f = schermata<Formattività>();
-  QVariantMap riga;
-  prosegui([&] { riga = carica_riga(dati_tmp(), u"sport"_s); });
+  const QVariantMap riga = riga_da_caricare(u"sport"_s);
   riempi_controlli(f, parte(sezione_sport(), {u"attivitàgg"_s}), riga, SeFallisce::prosegue);
   for (const QLineEdit* giorno : f.TxtAttività) {
     const double posizione = numerico(giorno->text()) ? valore(giorno->text()) : -1;
@@ -48,8 +48,8 @@ void carica_sport() {
 
 void Formattività::carica_consumi() {
   apri_dati_tmp(Scopo::caricare);
-  prosegui([&] { riempi_controlli(*this, sezione_consumi(), carica_riga(dati_tmp(), u"consumi"_s)); });
-  prosegui([&] { riempi_controlli(*this, sezione_ritmo_del_diario(), carica_riga(dati_tmp(), u"diario"_s)); });
+  prosegui([&] { riempi_controlli(*this, sezione_consumi(), riga_da_caricare(u"consumi"_s)); });
+  prosegui([&] { riempi_controlli(*this, sezione_ritmo_del_diario(), riga_da_caricare(u"diario"_s)); });
 }
 
 void Formattività::salva_perc_consumi() const {

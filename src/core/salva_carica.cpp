@@ -7,6 +7,7 @@
 #include "clinic/formfunzio_sezione.h"
 #include "clinic/formtratta_sezione.h"
 #include "core/mdiorza.h"
+#include "core/messaggi.h"
 #include "core/sessione.h"
 #include "core/sezioni_cliente.h"
 #include "diary/formdiario.h"
@@ -19,6 +20,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int non_aperto = 91;
 
 /// Fields that depend on the lists of provinces and municipalities, which only a shown screen fills.
 const QStringList& campi_dei_luoghi() {
@@ -68,13 +71,6 @@ void carica_scheda(Formanag& f, const QVariantMap& riga) {
   carica_foto(f, riga);
 }
 
-/// Failing statements are passed over one by one, the reading of the row included.
-QVariantMap riga_anagrafe() {
-  QVariantMap riga;
-  prosegui([&] { riga = carica_riga(dati_tmp(), u"anagrafe"_s); });
-  return riga;
-}
-
 /// Provinces, municipalities and what hangs on them. The choice of a municipality writes its postal code; the client's
 /// own, already there, stays.
 void riempi_luoghi(Formanag& f, const QVariantMap& riga) {
@@ -85,7 +81,7 @@ void riempi_luoghi(Formanag& f, const QVariantMap& riga) {
 
 void carica_anagrafe() {
   Formanag& f = schermata<Formanag>();
-  const QVariantMap riga = riga_anagrafe();
+  const QVariantMap riga = riga_da_caricare(u"anagrafe"_s);
   if (riga.isEmpty()) return;
   if (f.isHidden()) {
     carica_scheda(f, riga);
@@ -125,6 +121,16 @@ void esegui_per(int codice, void (*Operazioni::*quale)()) {
 
 }  // namespace
 
+QVariantMap riga_da_caricare(const QString& tabella) {
+  try {
+    return carica_riga(dati_tmp(), tabella);
+  } catch (const Errore& e) {
+    if (e.numero != non_aperto)
+      messaggio(u"Si è verificato un errore nel caricamento !"_s);  // the other is told already
+  }
+  return {};
+}
+
 void salva_cliente(int codice) {
   apri_dati_tmp(Scopo::salvare);
   esegui_per(codice, &Operazioni::salva);
@@ -140,5 +146,5 @@ void carica_luoghi() {
   if (liste_piene(f)) return;
   f.apri_comuni();
   apri_dati_tmp(Scopo::caricare);
-  riempi_luoghi(f, riga_anagrafe());
+  riempi_luoghi(f, riga_da_caricare(u"anagrafe"_s));
 }
