@@ -125,8 +125,12 @@ void scrivi_file(const QByteArray& dati, const QString& a) {
 
 void rinomina(const QString& da, const QString& a) {
   if (::rename(QFile::encodeName(da).constData(), QFile::encodeName(a).constData()) != 0) fallisci(errno, a);
-  const Descrittore cartella(QFileInfo(a).absolutePath(), O_RDONLY | O_DIRECTORY);
-  if (::fsync(cartella.fd()) != 0) fallisci(errno, a);
+  fissa_cartella(QFileInfo(a).absolutePath());
+}
+
+void fissa_cartella(const QString& cartella) {
+  const Descrittore d(cartella, O_RDONLY | O_DIRECTORY);
+  if (::fsync(d.fd()) != 0) fallisci(errno, cartella);
 }
 
 bool sparito(const QString& file) {

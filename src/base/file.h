@@ -18,6 +18,9 @@ void scrivi_file(const QByteArray& dati, const QString& a);
 /// Gives a file or a folder another name on the same disk, and waits until the disk knows it. Throws Errore.
 void rinomina(const QString& da, const QString& a);
 
+/// Flushes to the disk what files and folders a folder holds. Throws Errore as above.
+void fissa_cartella(const QString& cartella);
+
 /// True where a file is surely not there; one that cannot be reached is not gone.
 [[nodiscard]] bool sparito(const QString& file);
 

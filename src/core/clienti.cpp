@@ -38,12 +38,10 @@ void prendi(int cod) {
   sostituisci_file(scelto->file, percorso(u"dati.tmp"_s));
 }
 
-/// Deletes a client's folder and the files in it; only a folder right beside the program is one.
+/// Deletes a client's folder and the files in it.
 void elimina_cartella(const QString& nome) {
   QDir cartella(percorso(nome));
-  if (nome.contains(u'/') || !cartella.exists()) {
-    throw Errore(76, "Impossibile trovare il percorso " + percorso(nome).toStdString());
-  }
+  if (!cartella.exists()) throw Errore(76, "Impossibile trovare il percorso " + cartella.path().toStdString());
   for (const QString& file : cartella.entryList(QDir::Files | QDir::Hidden | QDir::System)) {
     if (!cartella.remove(file)) throw Errore(70, "Impossibile eliminare " + cartella.filePath(file).toStdString());
   }
@@ -93,6 +91,6 @@ void elimina_cliente() {
     return;
   }
   cancella_iscritto(cod.toInt());
-  elimina_cartella(cod + u'_' + cognome);
+  elimina_cartella(nome_cliente(cod, cognome));
   f.togli_riga(riga);
 }

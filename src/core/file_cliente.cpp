@@ -32,6 +32,10 @@ constexpr QStringView tabelle[]{
 
 }  // namespace
 
+QString nome_cliente(const QString& cod, const QString& cognome) {
+  return QString(cod + u'_' + cognome).replace(u'/', u'-');
+}
+
 void verifica_cliente(Archivio& cliente) {
   if (cliente.righe(u"PRAGMA integrity_check"_s).front()[u"integrity_check"] != u"ok"_s) {
     throw Errore(3343, "Il file del cliente è danneggiato.");

@@ -1,7 +1,10 @@
-// What a client's file must be before it is taken in.
+// What a client's file is called, and what it must be before it is taken in.
 #pragma once
 
 #include "base/archivio.h"
+
+/// Name of a client's folder and, but for its ending, of the file: number, "_", surname. It never leads elsewhere.
+[[nodiscard]] QString nome_cliente(const QString& cod, const QString& cognome);
 
 /// Throws Errore 3343 where the store is damaged, 3078 where it lacks a table of a client's.
 void verifica_cliente(Archivio& cliente);

@@ -68,10 +68,12 @@ void pretendi_sana() {
   verifica_cliente(dati);
 }
 
-/// client number, "_", first word of the surname
-QString nome_cliente() {
-  const Mdiorza& m = schermata<Mdiorza>();
-  return m.Txtcod->text() + u'_' + m.Txtsoggetto->text().trimmed().section(u' ', 0, 0);
+/// The engine takes shorter paths than the system does: what it cannot open again is not saved.
+void copia_in(const QString& file) {
+  chiudi_archivi();
+  pretendi_sana();
+  sostituisci_file(file_dati(), file);
+  Archivio(file, accesso, Archivio::Modo::sola_lettura);
 }
 
 }  // namespace
@@ -111,17 +113,25 @@ void elimina_dati_tmp() {
 }
 
 QString percorso_cliente() {
-  const QString nome = nome_cliente();
+  const Mdiorza& m = schermata<Mdiorza>();
+  const QString nome = nome_cliente(m.Txtcod->text(), m.Txtsoggetto->text().trimmed().section(u' ', 0, 0));
   return QDir(percorso(nome)).filePath(nome + u".orzaline"_s);
 }
 
 QString salva_su_file_cliente() {
   const QString file = percorso_cliente();
-  const QString cartella = QFileInfo(file).absolutePath();
-  if (!QDir().mkpath(cartella)) throw Errore(75, "Impossibile creare la cartella " + cartella.toStdString());
-  chiudi_archivi();
-  pretendi_sana();
-  sostituisci_file(file_dati(), file);
+  QDir cartella = QFileInfo(file).absoluteDir();
+  const bool nuova = !cartella.exists();
+  if (!QDir().mkpath(cartella.path())) {
+    throw Errore(75, "Impossibile creare la cartella " + cartella.path().toStdString());
+  }
+  try {
+    copia_in(file);
+    if (nuova) fissa_cartella(percorso({}));
+  } catch (const Errore&) {
+    if (nuova) cartella.removeRecursively();
+    throw;
+  }
   return file;
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 const QString orzaline_control = u"Orzaline control"_s;
 
-QString nome_di(int cod, const QString& cognome) { return QString::number(cod) + u'_' + cognome; }
+QString nome_di(int cod, const QString& cognome) { return nome_cliente(QString::number(cod), cognome); }
 
 struct Straniero {
   std::int16_t cod;
@@ -31,10 +31,8 @@ std::int16_t cod_da(const QVariant& v) {
   return round16(v.toDouble());
 }
 
-/// The surname names a folder here: it must not lead out of the archive.
 QString cognome_da(const QVariant& v) {
   if (v.isNull()) throw Errore(94, "Utilizzo non valido di Null");
-  if (v.toString().contains(u'/')) throw Errore(52, "Nome o numero di file non valido");
   return v.toString();
 }
 
@@ -60,19 +58,21 @@ std::optional<std::int16_t> numero_per(std::int16_t cod) {
   return {};
 }
 
-/// Copies the client into a folder of its own. It grows under another name: where the copy fails or is cut short, no
-/// folder stands in the way of the next import, and no client under another's number.
-void porta_dentro(const QString& origine, const QString& cartella, const QString& file, std::int16_t cod) {
-  QDir nuova(percorso(u"importazione.nuova"_s));
-  nuova.removeRecursively();  // of an import that was cut short
-  if (!QDir().mkdir(nuova.path())) throw Errore(75, "Impossibile creare la cartella " + nuova.path().toStdString());
+/// The client's folder is made aside, whole and with the number in it, and then named: a folder that an import cut
+/// short had left half made would stand in the client's way ever after.
+void porta_dentro(const QString& origine, const QString& nome, std::int16_t cod) {
+  QDir aparte(percorso(u".importazione"_s));
+  aparte.removeRecursively();
+  if (!QDir().mkdir(aparte.path())) {
+    throw Errore(75, "Impossibile creare la cartella " + percorso(nome).toStdString());
+  }
   try {
-    const QString copia = nuova.filePath(file);
-    sostituisci_file(origine, copia);
-    scrivi_cod_importato(copia, cod);
-    rinomina(nuova.path(), cartella);
+    const QString file = aparte.filePath(nome + u".orzaline"_s);
+    sostituisci_file(origine, file);
+    scrivi_cod_importato(file, cod);
+    rinomina(aparte.path(), percorso(nome));
   } catch (const Errore&) {
-    nuova.removeRecursively();
+    aparte.removeRecursively();
     throw;
   }
 }
@@ -85,12 +85,11 @@ Esito importa(const QString& origine, const Copia& in_corso) {
   const auto cod = numero_per(straniero->cod);
   if (!cod) return Esito::fine;
   const QString nome = nome_di(*cod, straniero->cognome);
-  const QString cartella = percorso(nome);
-  const QString file = QDir(cartella).filePath(nome + u".orzaline"_s);
-  iscrivi({*cod, straniero->cognome, file});
-  if (QDir(cartella).exists()) return Esito::avanti;
+  const QDir cartella(percorso(nome));
+  iscrivi({*cod, straniero->cognome, cartella.filePath(nome + u".orzaline"_s)});
+  if (cartella.exists()) return Esito::avanti;
   if (in_corso) in_corso(true);
-  porta_dentro(origine, cartella, QFileInfo(file).fileName(), *cod);
+  porta_dentro(origine, nome, *cod);
   return Esito::avanti;
 }
 

@@ -59,17 +59,19 @@ struct ProvaTrasferimento : Ambiente {
 TEST_F(ProvaTrasferimento, ImportedClientsGetRowFolderWholeSurnameAndAFreeNumber) {
   const QString primo = straniero(u"a"_s, 12, u"DE ROSSI"_s), secondo = straniero(u"b"_s, 12, u"VERDI"_s);
   const QString terzo = straniero(u"c"_s, 3, u"NERI"_s);
+  const QString esce = straniero(u"esce"_s, 6, u"X/../../ROSSI"_s);
   const QByteArray prima = contenuto(secondo);
   Dialogo d({codice_preso(13), importata});
-  importa_clienti({primo, secondo, terzo});
+  importa_clienti({primo, secondo, terzo, esce});
   EXPECT_EQ(registro(), (QStringList{u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline"_s,
-                                     u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s}));
+                                     u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s,
+                                     u"6 X/../../ROSSI 6_X-..-..-ROSSI/6_X-..-..-ROSSI.orzaline"_s}));
   EXPECT_EQ(cod_nel_file(u"12_DE ROSSI/12_DE ROSSI.orzaline"_s), 12);
   EXPECT_EQ(cod_nel_file(u"13_VERDI/13_VERDI.orzaline"_s), 13);
   EXPECT_EQ(contenuto(secondo), prima);
   d.attendi(codice_preso(14, false));
   importa_clienti({primo, straniero(u"d"_s, 50, u"BLU"_s)});
-  EXPECT_EQ(registro().size(), 3) << "a No ends the whole import, without a word";
+  EXPECT_EQ(registro().size(), 4) << "a No ends the whole import, without a word";
 }
 
 TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
@@ -85,7 +87,6 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
                               altra,
                               monca,
                               percorso(u"fc.jed"_s),
-                              straniero(u"esce"_s, 6, u"X/../../ROSSI"_s),
                               straniero(u"senza"_s, {}, u"ROSSI"_s),
                               straniero(u"anonimo"_s, 6, {}),
                               straniero(u"grande"_s, 40000, u"ROSSI"_s),

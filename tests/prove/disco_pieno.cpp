@@ -162,7 +162,7 @@ QString straniero(const Prova& p) { return QDir(p.fuori).filePath(u"straniero.or
 void giudica_importazione(const Prova& p, int detto) {
   const QDir cartella(QDir(p.disco).filePath(u"77_NERI"_s));
   if (cartella.exists() != (detto == riuscito)) fallito(u"an import is there by half"_s);
-  if (QDir(p.disco).exists(u"importazione.nuova"_s)) fallito(u"a piece of an import is left"_s);
+  if (QDir(p.disco).exists(u".importazione"_s)) fallito(u"a piece of an import is left"_s);
   if (detto != riuscito) return;
   Archivio cliente(cartella.filePath(u"77_NERI.orzaline"_s));
   prove::sano(cliente, cartella.path());
