@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QDirIterator>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 using prove::fallito;
@@ -78,8 +77,7 @@ Trovato esamina(const Cartelle& dove, const QString& cognome) {
     prove::sano(a, file);
   }
   Trovato t;
-  QStringList file =
-      file_in(dove.pratica, {u"*.orzaline"_s}).filter(QRegularExpression(u"^(?!.*importazione.nuova)"_s));
+  QStringList file = file_in(dove.pratica, {u"*.orzaline"_s});
   Archivio registro(QDir(dove.pratica).filePath(u"fc.jed"_s));
   for (const Riga& r : registro.righe(u"SELECT * FROM schedario"_s)) {
     const QString suo = r[u"nome_files"].toString(), chi = r[u"cognome"].toString();

@@ -9,6 +9,8 @@ prove=(
   'release uccisioni           1000 2000'  # 8 min
   'release uccisioni_programma 300'        # 6 min
   'release disco_pieno         17'         # 2 min
+  'release chiamate            10000'      # 3 min
+  'release permessi            1000 100'   # 1 min
 )
 
 for preset in release asan; do
