@@ -36,6 +36,43 @@ QToolButton* attrezzo(std::size_t indice, const QString& suggerimento) {
   return b;
 }
 
+/// What the Tab key goes through: toolbar, screen in front, bottom bar. Screens behind the one in front are passed by.
+QWidgetList giro_del_fuoco(QWidget& finestra) {
+  const auto* area = finestra.findChild<QMdiArea*>();
+  const QWidget *davanti = area->activeSubWindow(), *fondo = schermata<Mdiorza>().Command2[0]->parentWidget();
+  std::array<QWidgetList, 3> zone;
+  for (QWidget* w = finestra.nextInFocusChain(); w != &finestra; w = w->nextInFocusChain()) {
+    const bool accetta = (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy() && w->isEnabled() && w->isVisible();
+    if (!accetta && w != finestra.focusWidget()) continue;
+    if (fondo->isAncestorOf(w)) {
+      zone[2] << w;
+    } else if (!area->isAncestorOf(w)) {
+      zone[0] << w;
+    } else if (davanti && davanti->isAncestorOf(w)) {
+      zone[1] << w;
+    }
+  }
+  return zone[0] + zone[1] + zone[2];
+}
+
+/// A part of the window from which the Tab key goes round the whole of it. By itself a frame of the area keeps the key
+/// among its own controls.
+template <class W>
+class Zona : public W {
+ public:
+  using W::W;
+
+ protected:
+  bool focusNextPrevChild(bool avanti) override {
+    const QWidgetList giro = giro_del_fuoco(*this->window());
+    if (giro.isEmpty()) return false;
+    const qsizetype qui = giro.indexOf(this->window()->focusWidget()), ultimo = giro.size() - 1;
+    QWidget* dopo = avanti ? giro[qui < ultimo ? qui + 1 : 0] : giro[qui > 0 ? qui - 1 : ultimo];
+    dopo->setFocus(avanti ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
+  }
+};
+
 QAction* voce(QMenu* menu, const QString& nome, const QString& scritta, bool attiva = true) {
   QAction* a = menu->addAction(scritta);
   a->setObjectName(nome);
@@ -56,7 +93,7 @@ void Mdiorza::disegna() {
   area_->setFrameShape(QFrame::NoFrame);
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  auto* centro = new QWidget;
+  auto* centro = new Zona<QWidget>;
   auto* colonna = new QVBoxLayout(centro);
   colonna->setContentsMargins(0, 0, 0, 0);
   colonna->setSpacing(0);
@@ -85,7 +122,8 @@ void Mdiorza::disegna_menu() {
 }
 
 void Mdiorza::disegna_barra() {
-  QToolBar* b = nominato(addToolBar(u"Stadi"_s), u"stadi"_s);
+  QToolBar* b = nominato(new Zona<QToolBar>(u"Stadi"_s), u"stadi"_s);
+  addToolBar(b);
   b->setMovable(false);
   b->setContextMenuPolicy(Qt::PreventContextMenu);
   const auto aggiungi = [&](std::size_t indice, QStringView suggerimento) {
@@ -150,7 +188,8 @@ QWidget* Mdiorza::disegna_fondo() {
 }
 
 QMdiSubWindow* Mdiorza::incornicia(QWidget& schermo) {
-  QMdiSubWindow* finestra = area_->addSubWindow(&schermo, Qt::FramelessWindowHint);
+  QMdiSubWindow* finestra = area_->addSubWindow(new Zona<QMdiSubWindow>(area_->viewport(), Qt::FramelessWindowHint));
+  finestra->setWidget(&schermo);
   finestra->setSystemMenu(nullptr);  // a screen is closed by the program alone
   finestra->setFixedSize(larghezza_schermo, altezza_schermo);
   finestra->move(0, 0);
