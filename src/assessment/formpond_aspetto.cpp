@@ -276,7 +276,7 @@ QWidget* Formpond::disegna_metodi(QWidget* in) {
     Image1[i]->setIcon(icona(u"metodo_%1"_s.arg(i)));
     Image1[i]->setIconSize({44, 40});
     Image1[i]->setFixedSize(108, 44);
-    Image1[i]->setFocusPolicy(Qt::NoFocus);
+    Image1[i]->setFocusPolicy(Qt::TabFocus);
     Image1[i]->setAccessibleName(metodi[i]);
     Text1[i] = campo_calcolato(nome_indice(u"Text1", i), 108, Qt::AlignHCenter);
     Text1[i]->setText(metodi[i]);

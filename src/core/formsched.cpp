@@ -141,9 +141,13 @@ void Formsched::togli_riga(int riga) {
 }
 
 bool Formsched::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Delete) {
-    Cmddelete->click();
-    return true;
+  if (evento->type() == QEvent::KeyPress) {
+    const int tasto = static_cast<QKeyEvent*>(evento)->key();
+    const bool invio = tasto == Qt::Key_Return || tasto == Qt::Key_Enter;
+    if (invio || tasto == Qt::Key_Delete) {
+      (invio ? Command10[2] : Cmddelete)->click();
+      return true;
+    }
   }
   // Who comes with the Tab key finds a line to move from.
   const bool con_tab =

@@ -332,9 +332,9 @@ TEST_F(ProvaPonderale, TabGoesInReadingOrderOnBothFaces) {
     }
     return nomi;
   };
-  const QStringList scelta = QStringList{u"Command2"_s} + vettore(u"Text3"_s, 0, 3) +
-                             QStringList{u"Text2_0"_s, u"Text2_2"_s} + vettore(u"Text5"_s, 0, 4) +
-                             QStringList{u"Combo1"_s} + vettore(u"Text1"_s, 0, 3);
+  QStringList scelta = QStringList{u"Command2"_s} + vettore(u"Text3"_s, 0, 3) +
+                       QStringList{u"Text2_0"_s, u"Text2_2"_s} + vettore(u"Text5"_s, 0, 4) + QStringList{u"Combo1"_s};
+  for (int metodo = 0; metodo < 4; ++metodo) scelta += {u"Image1_%1"_s.arg(metodo), u"Text1_%1"_s.arg(metodo)};
   EXPECT_EQ(giro(f->Command2), scelta);
   QTest::mouseClick(f->Image1[0], Qt::LeftButton);
   EXPECT_EQ(giro(f->txtpesoragg),
