@@ -1,14 +1,22 @@
-// The pointer of a program at work.
+// The pointer of a program at work, and of one that waits for its user in the midst of it.
 #pragma once
 
 #include <QCursor>
 #include <QGuiApplication>
 
-/// The busy pointer as long as it lives.
-class Attesa {
+/// A pointer over all windows as long as it lives.
+class Puntatore {
  public:
-  Attesa() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  ~Attesa() { QGuiApplication::restoreOverrideCursor(); }
-  Attesa(const Attesa&) = delete;
-  Attesa& operator=(const Attesa&) = delete;
+  explicit Puntatore(Qt::CursorShape forma) { QGuiApplication::setOverrideCursor(forma); }
+  ~Puntatore() { QGuiApplication::restoreOverrideCursor(); }
+  Puntatore(const Puntatore&) = delete;
+  Puntatore& operator=(const Puntatore&) = delete;
+};
+
+struct Attesa : Puntatore {
+  Attesa() : Puntatore(Qt::WaitCursor) {}
+};
+
+struct Ascolto : Puntatore {
+  Ascolto() : Puntatore(Qt::ArrowCursor) {}
 };

@@ -4,6 +4,7 @@
 #include "base/errori.h"
 #include "base/file.h"
 #include "clinic/formtratta.h"
+#include "core/attesa.h"
 #include "core/dialoghi.h"
 #include "core/file_cliente.h"
 #include "core/formsched.h"
@@ -51,18 +52,21 @@ void elimina_cartella(const QString& nome) {
 }  // namespace
 
 int richiama_cliente() {
+  const Attesa attesa;
   if (prosegui([] { prendi(cod_scelto()); })) return 0;
   messaggio(u"Si è verificato un errore nel caricamento !"_s);
   return -1;
 }
 
 void apri_cliente_scheda() {
+  const Attesa attesa;
   scarica<Formsched>();
   scarica_schede();
   mostra<Formanag>();
 }
 
 void nuovo_cliente() {
+  const Attesa attesa;
   elimina_dati_tmp();
   scarica<Formsched>();
   scarica_schede();

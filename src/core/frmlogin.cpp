@@ -1,5 +1,6 @@
 #include "core/frmlogin.h"
 
+#include "core/attesa.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/programma.h"
@@ -50,6 +51,7 @@ void frmLogin::ok() {
     txtPassword->setFocus();
     txtPassword->selectAll();
   } else {
+    const Attesa attesa;
     archivio_.reset();
     scarica<frmLogin>();
     mostra<Mdiorza>();
@@ -57,6 +59,7 @@ void frmLogin::ok() {
 }
 
 void frmLogin::primo_ingresso() {
+  const Attesa attesa;
   archivio_->esegui(u"INSERT INTO login (nome_utente, password) VALUES (?, ?)"_s, txtUserName->text().trimmed(),
                     txtPassword->text().trimmed());
   archivio_.reset();

@@ -1,5 +1,7 @@
 #include "core/messaggi.h"
 
+#include "core/attesa.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QMessageBox>
@@ -32,7 +34,10 @@ bool finestra(const Riquadro& r) {
 
 Interlocutore interlocutore;
 
-bool parla(const Riquadro& r) { return interlocutore ? interlocutore(r) : finestra(r); }
+bool parla(const Riquadro& r) {
+  const Ascolto ascolto;
+  return interlocutore ? interlocutore(r) : finestra(r);
+}
 
 }  // namespace
 
@@ -41,6 +46,7 @@ void messaggio(const QString& testo, const QString& titolo, Icona icona) { parla
 bool domanda(const QString& testo, const QString& titolo, Icona icona) { return parla({testo, titolo, icona, true}); }
 
 bool domanda_con(const Riquadro& domanda, const std::function<bool()>& finestra) {
+  const Ascolto ascolto;
   return interlocutore ? interlocutore(domanda) : finestra();
 }
 

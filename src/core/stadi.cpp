@@ -5,6 +5,7 @@
 #include "base/numeri.h"
 #include "clinic/formfunzio.h"
 #include "clinic/formtratta.h"
+#include "core/attesa.h"
 #include "core/mdiorza.h"
 #include "core/sessione.h"
 #include "diary/formdiario.h"
@@ -42,6 +43,7 @@ void muovi(std::ptrdiff_t passo) {
   if (!qui) return;
   const auto i = qui - percorso_stadi + passo;
   if (i < 0 || i >= std::ssize(percorso_stadi)) return QApplication::beep();
+  const Attesa attesa;
   qui->chiudi();
   percorso_stadi[i].apri();
 }
@@ -76,6 +78,7 @@ void avanti() { muovi(1); }
 void indietro() { muovi(-1); }
 
 void salta_a(const Stadio& stadio) {
+  const Attesa attesa;
   scarica_schede();
   stadio.apri();
 }

@@ -4,6 +4,7 @@
 #include "base/errori.h"
 #include "base/file.h"
 #include "base/numeri.h"
+#include "core/attesa.h"
 #include "core/file_cliente.h"
 #include "core/messaggi.h"
 #include "core/registro.h"
@@ -110,6 +111,7 @@ bool copia_fuori(const Iscritto& i, const QString& cartella, const Copia& in_cor
 }  // namespace
 
 void esporta_cliente(int cod, const QString& cartella, const Copia& in_corso) {
+  const Attesa attesa;
   bool copiato = false;
   abbandona([&] {
     const auto scelto = iscritto(cod);
@@ -120,6 +122,7 @@ void esporta_cliente(int cod, const QString& cartella, const Copia& in_corso) {
 }
 
 void importa_clienti(const QStringList& file, const Copia& in_corso) {
+  const Attesa attesa;
   try {
     for (const QString& f : file) {
       if (importa(f, in_corso) == Esito::fine) return;

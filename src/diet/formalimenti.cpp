@@ -3,6 +3,7 @@
 #include "base/errori.h"
 #include "base/liste.h"
 #include "base/numeri.h"
+#include "core/attesa.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/regole.h"
@@ -96,6 +97,7 @@ void Formalimenti::continua_dalla_scelta() {
   FrameSceltaAlimenti->hide();
   mostra_pasti();
   if (LabSceltaAlim.text() != u"0") return;
+  const Attesa attesa;
   LabSceltaFFold.setText(LabSceltaFF.text());
   apri_dati_tmp(Scopo::salvare);
   Archivio sa_dieta = base_alimenti();
@@ -153,6 +155,7 @@ void Formalimenti::applica_caselle(std::size_t insieme) {
 void Formalimenti::conferma() {
   azzera_frame();
   MSFlex2->show();
+  MSFlex2->setFocus();
   riempi_scelti();
 }
 

@@ -133,12 +133,7 @@ void Formelabora::elabora() {
 }
 
 Tramite Formelabora::tramite() {
-  return {.messaggio =
-              [](const Riquadro& r) {
-                QApplication::setOverrideCursor(Qt::ArrowCursor);
-                messaggio(r.testo, r.titolo, r.icona);
-                QApplication::restoreOverrideCursor();
-              },
+  return {.messaggio = [](const Riquadro& r) { messaggio(r.testo, r.titolo, r.icona); },
           .progresso =
               [this](int pasto) {
                 ProgressBar1->setValue(pasto);

@@ -4,6 +4,7 @@
 #include "base/errori.h"
 #include "base/numeri.h"
 #include "core/aspetto.h"
+#include "core/attesa.h"
 #include "core/dialoghi.h"
 #include "core/mdiorza.h"
 #include "core/programma.h"
@@ -122,6 +123,7 @@ void Form_anteprima_diario::riempi_alimenti() {
 }
 
 void Form_anteprima_diario::stampa() {
+  const Attesa attesa;
   Command1->hide();
   if (!prosegui([&] { stampa_immagine(*this, stampante()); })) avvisa_stampante();
   Command1->show();

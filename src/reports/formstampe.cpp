@@ -74,6 +74,7 @@ void Formstampe::all_attivazione() { List1->setCurrentRow(0); }
 
 void Formstampe::scegli_zoom() {
   if (List1->currentRow() < 0) return;
+  const Attesa attesa;
   Picture1->clear();
   misura_foglio();
   const Rapporto* r = rapporto(Labstampa.text());
@@ -113,6 +114,7 @@ void Formstampe::prepara_pagine(const Rapporto& r) {
 void Formstampe::scrivi_pagina() {
   const Rapporto* r = rapporto(Labstampa.text());
   if (!r) return;
+  const Attesa attesa;
   QPixmap foglio(Picture1->size() * devicePixelRatioF());
   foglio.setDevicePixelRatio(devicePixelRatioF());
   foglio.fill(Qt::white);
