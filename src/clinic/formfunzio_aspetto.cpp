@@ -3,6 +3,7 @@
 #include "core/griglie.h"
 #include "core/schermate.h"
 
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -125,7 +126,7 @@ QWidget* Formfunzio::disegna_pressione() {
   for (std::size_t i = 0; i < Text11.size(); ++i) {
     const std::size_t lettura = i / 4, casella = i % 4;
     const int colonna = static_cast<int>(lettura % 2 * 5 + casella);
-    Text11[i] = campo(u"Text11"_s, i, suggerimenti[casella], teste[casella]);
+    Text11[i] = campo(u"Text11"_s, i, suggerimenti[casella], u"Misura %1, "_s.arg(lettura + 1) + teste[casella]);
     Text11[i]->setFixedWidth(casella == 0 ? larghezza_data : larghezza_lettura);
     if (casella > 0) Text11[i]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     if (lettura < 2) c.griglia->addWidget(testa(teste[casella]), 0, colonna);
@@ -148,7 +149,7 @@ QWidget* Formfunzio::disegna_farmaci() {
   for (std::size_t i = 0; i <= 8; ++i) {
     for (std::size_t colonna = 0; colonna < 3; ++colonna) {
       const std::size_t indice = i + 10 * colonna;
-      Text19[indice] = campo(u"Text19"_s, indice, suggerimenti[colonna], teste[colonna]);
+      Text19[indice] = campo(u"Text19"_s, indice, suggerimenti[colonna], u"Farmaco %1, "_s.arg(i + 1) + teste[colonna]);
       c.griglia->addWidget(Text19[indice], static_cast<int>(i) + 1, static_cast<int>(colonna));
     }
     Text19[i]->setFixedWidth(larghezza_data);
@@ -162,6 +163,7 @@ QWidget* Formfunzio::disegna_esami() {
   const Cornice c = cornice(u"Esami di laboratorio"_s);
   MSFlex2 = griglia(u"MSFlex2"_s, colonne_esami);
   MSFlex2->setAccessibleName(u"Esami di laboratorio"_s);
+  MSFlex2->horizontalHeader()->setSectionResizeMode(5, QHeaderView::Stretch);
   MSFlex2->setEnabled(false);
   c.griglia->addWidget(MSFlex2, 0, 0);
   const std::array scritte{u"Nuovo esame"_s, u"Modifica esame selezionato"_s, u"Elimina esame selezionato"_s};

@@ -24,13 +24,46 @@ QLineSeries* linea(std::span<const PuntoGrafico> punti) {
   serie->setPen(QPen(tinta, 2));
   serie->setColor(tinta);
   serie->setPointsVisible(true);
-  serie->setPointLabelsVisible(true);
-  serie->setPointLabelsFormat(u"@yPoint"_s);
-  serie->setPointLabelsClipping(false);
-  serie->setPointLabelsColor(tinta);
   for (std::size_t i = 0; i < punti.size(); ++i) serie->append(static_cast<qreal>(i), punti[i].valore);
   return serie;
 }
+
+/// Writes the values of a line where it does not run: under a valley, over a peak, on the free side of a slope.
+class ConValori : public QChartView {
+ protected:
+  void drawForeground(QPainter* p, const QRectF&) override {
+    p->setPen(tinta);
+    p->setFont(font());
+    for (QAbstractSeries* s : chart()->series()) {
+      const auto* linea = qobject_cast<QLineSeries*>(s);
+      for (qsizetype i = 0; linea && i < linea->count(); ++i) {
+        const QString valore = QString::number(linea->at(static_cast<int>(i)).y());
+        p->drawText(posto(*linea, i, p->fontMetrics().size(0, valore)), Qt::AlignCenter, valore);
+      }
+    }
+  }
+
+ private:
+  static constexpr qreal distanza = 5;
+
+  [[nodiscard]] QRectF posto(const QLineSeries& linea, qsizetype i, QSizeF misura) const {
+    const auto dove = [&](qsizetype k) {
+      const auto quale = static_cast<int>(std::clamp<qsizetype>(k, 0, linea.count() - 1));
+      return chart()->mapToPosition(linea.at(quale), const_cast<QLineSeries*>(&linea));
+    };
+    const QPointF qui = dove(i);
+    const bool scende = dove(i - 1).y() < qui.y(), sale = dove(i + 1).y() < qui.y();
+    QRectF r(qui - QPointF(misura.width() / 2, misura.height() + distanza), misura);
+    if (scende && sale) {
+      r.moveTop(qui.y() + distanza);
+    } else if (scende) {
+      r.moveLeft(qui.x() + distanza);
+    } else if (sale) {
+      r.moveRight(qui.x() - distanza);
+    }
+    return r;
+  }
+};
 
 QBarSeries* barre(std::span<const PuntoGrafico> punti) {
   auto* valori = new QBarSet({});
@@ -73,8 +106,9 @@ QValueAxis* asse_valori(std::span<const PuntoGrafico> punti, TipoGrafico tipo) {
 Formgraficotratta::Formgraficotratta() {
   setObjectName(u"Formgraficotratta"_s);
   setModal(true);
-  MSChart1 = nominato(new QChartView, u"MSChart1"_s);
+  MSChart1 = nominato(new ConValori, u"MSChart1"_s);
   MSChart1->setRenderHint(QPainter::Antialiasing);
+  MSChart1->setFocusPolicy(Qt::NoFocus);
   MSChart1->chart()->setBackgroundRoundness(4);
   MSChart1->chart()->legend()->hide();
   commchiudi = pulsante(u"commchiudi"_s, u"Chiudi"_s, u"Chiudi il grafico"_s);

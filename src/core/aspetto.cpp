@@ -137,6 +137,7 @@ void scrivi_da_capo(QLineEdit& campo, const QString& testo) {
 
 QTabBar* lettere(const QString& nome) {
   auto* s = nominato(new QTabBar, nome, u"Iniziale del cognome"_s);
+  s->setAccessibleName(s->toolTip());
   for (char16_t c = u'A'; c <= u'Z'; ++c) s->addTab(QString(c));
   s->setDrawBase(false);
   s->setExpanding(false);

@@ -36,7 +36,7 @@ void Formi_e::disegna() {
   Command3 = pulsante(u"Command3"_s, u"Chiudi"_s, u"Chiudi la finestra"_s);
   c.griglia->addLayout(barra({Animation}, {Command3}), 1, 0, 1, 2);
   auto* fuori = new QVBoxLayout(this);
-  fuori->setContentsMargins(4, 4, 4, 6);
+  fuori->setContentsMargins(6, 4, 6, 6);
   fuori->addWidget(c.box);
 }
 
@@ -52,6 +52,8 @@ QWidget* Formi_e::disegna_esporta() {
   sotto(c, a_sinistra, 0, u"Scegli il cliente"_s, MSFlexGrid1, 4);
   sotto(c, a_destra, 1, u"Scegli il drive"_s, Drive1);
   sotto(c, a_destra, 1, u"Scegli la directory"_s, Dir1);
+  Drive1->setAccessibleName(u"Drive in cui esportare"_s);
+  Dir1->setAccessibleName(u"Directory in cui esportare"_s);
   c.griglia->addWidget(Command2, a_destra, 1, Qt::AlignRight);
   c.griglia->setRowStretch(a_destra - 1, 1);
   return c.box;
@@ -63,6 +65,7 @@ QWidget* Formi_e::disegna_importa() {
   Drive2 = nominato(new QComboBox, u"Drive2"_s, u"Unità da cui copiare"_s);
   Dir2 = nominato(new Cartelle, u"Dir2"_s, u"Cartella da cui copiare: doppio clic per aprirla"_s);
   File1 = nominato(new QListWidget, u"File1"_s, u"File di clienti nella cartella; se ne possono scegliere diversi"_s);
+  for (QListWidget* l : {static_cast<QListWidget*>(Dir1), static_cast<QListWidget*>(Dir2), File1}) distanzia_voci(l);
   File1->setSelectionMode(QAbstractItemView::ExtendedSelection);
   Cmdimp = pulsante(u"Cmdimp"_s, u"Importa"_s, u"Importa il file del cliente nel database locale"_s);
   Cmdimp->setEnabled(false);
@@ -70,6 +73,8 @@ QWidget* Formi_e::disegna_importa() {
   sotto(c, riga, 0, u"Scegli il drive"_s, Drive2);
   sotto(c, riga, 0, u"Scegli la directory"_s, Dir2);
   sotto(c, riga, 0, u"Seleziona il file da importare"_s, File1);
+  Drive2->setAccessibleName(u"Drive da cui importare"_s);
+  Dir2->setAccessibleName(u"Directory da cui importare"_s);
   c.griglia->addWidget(Cmdimp, riga, 0, Qt::AlignRight);
   return c.box;
 }

@@ -60,7 +60,7 @@ void Formsched::disegna() {
   c.griglia->addLayout(disegna_comandi(), 2, 1);
   c.griglia->setRowStretch(2, 1);
   auto* fuori = new QVBoxLayout(this);
-  fuori->setContentsMargins(4, 4, 4, 6);
+  fuori->setContentsMargins(6, 4, 6, 6);
   fuori->addWidget(c.box);
 }
 

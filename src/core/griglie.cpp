@@ -3,6 +3,8 @@
 #include "core/aspetto.h"
 
 #include <QHeaderView>
+#include <QListView>
+#include <QStyledItemDelegate>
 
 namespace {
 
@@ -62,4 +64,15 @@ void aggiungi_riga(QTableWidget* griglia, const QStringList& testi) {
     t->setData(Qt::TextAlignmentRole, griglia->horizontalHeaderItem(i)->data(Qt::TextAlignmentRole));
     griglia->setItem(riga, i, t);
   }
+}
+
+void distanzia_voci(QListView* lista) {
+  class Voce : public QStyledItemDelegate {
+   public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& o, const QModelIndex& i) const override {
+      return {QStyledItemDelegate::sizeHint(o, i).width(), altezza_voce};
+    }
+  };
+  lista->setItemDelegate(new Voce(lista));
 }

@@ -1,9 +1,13 @@
-// The grids of clients: whole lines to be chosen, widths in units of 15 to the pixel.
+// The grids of clients: whole lines to be chosen, widths in units of 15 to the pixel. Lists with some air.
 #pragma once
 
 #include <QString>
 #include <QTableWidget>
 #include <span>
+
+class QListView;
+
+inline constexpr int altezza_voce = 17;  // pixels of a line of a list
 
 struct Colonna {
   QStringView testa;
@@ -19,3 +23,6 @@ struct Colonna {
 
 /// Adds a line; each text stands as its column's head does.
 void aggiungi_riga(QTableWidget* griglia, const QStringList& testi);
+
+/// Gives the lines of a list their height.
+void distanzia_voci(QListView* lista);

@@ -5,14 +5,13 @@
 #include "diary/formdiario.h"
 #include "diary/totali.h"
 
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int larghezza_liste = 170, altezza_voce = 17;
+constexpr int larghezza_liste = 168;
 constexpr int larghezza_livello = 50, larghezza_ritmo = 182;
 constexpr int codici = 4;  // columns that are there for the program alone
 constexpr std::size_t nutrienti = 4;
@@ -32,13 +31,6 @@ constexpr Colonna colonne[]{
 
 constexpr QStringView etichette[]{u"Glucidi g.", u"Lipidi g.", u"Protidi g.", u"Kcalorie"};
 
-/// Lines with some air between them.
-class Voci : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {0, altezza_voce}; }
-};
-
 /// A chosen line stays chosen, or the grid would show foods of no family.
 class Elenco : public QListWidget {
  protected:
@@ -50,7 +42,7 @@ class Elenco : public QListWidget {
 
 QListWidget* elenco(const QString& nome, const QString& suggerimento, int voci) {
   auto* l = nominato(new Elenco, nome, suggerimento);
-  l->setItemDelegate(new Voci(l));
+  distanzia_voci(l);
   l->setFixedWidth(larghezza_liste);
   l->setMinimumHeight(voci * altezza_voce + 2);
   l->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -64,7 +56,7 @@ void Formdiario::disegna() {
   setObjectName(u"Formdiario"_s);
   setWindowTitle(u"Diario Alimentare"_s);
   auto* fila = new QHBoxLayout(this);
-  fila->setContentsMargins(4, 4, 4, 6);
+  fila->setContentsMargins(6, 4, 6, 6);
   fila->setSpacing(6);
   fila->addWidget(disegna_scelte());
   disegna_griglia();
@@ -84,7 +76,7 @@ void Formdiario::disegna() {
 
 QWidget* Formdiario::disegna_scelte() {
   const Cornice c = cornice(windowTitle());
-  c.griglia->setContentsMargins(5, 6, 5, 6);
+  c.griglia->setContentsMargins(4, 6, 4, 6);
   int posto = 0;
   const auto aggiungi = [&](const QString& etichetta, QListWidget* lista) {
     if (posto > 0) c.griglia->setRowMinimumHeight(posto++, 6);

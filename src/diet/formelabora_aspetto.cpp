@@ -1,5 +1,6 @@
 #include "base/pasti.h"
 #include "core/aspetto.h"
+#include "core/griglie.h"
 #include "core/schermate.h"
 #include "diet/formelabora.h"
 
@@ -63,8 +64,8 @@ QWidget* Formelabora::disegna_scelte() {
   sotto(Combo1);
   List1 = nominato(new QListWidget, u"List1"_s, u"Giorno da mostrare"_s);
   List1->addItems({u"Lunedì"_s, u"Martedì"_s, u"Mercoledì"_s, u"Giovedì"_s, u"Venerdì"_s, u"Sabato"_s, u"Domenica"_s});
-  for (int i = 0; i < List1->count(); ++i) List1->item(i)->setSizeHint({0, 17});
-  List1->setFixedHeight(giorni * 17 + 2);
+  distanzia_voci(List1);
+  List1->setFixedHeight(giorni * altezza_voce + 2);
   List1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   sotto(etichetta_di(u"giorno:"_s, List1));
   sotto(List1);

@@ -14,9 +14,9 @@ namespace {
 
 constexpr Colonna colonne[]{{u"Ora", 540, Qt::AlignHCenter}, {u"Promemoria", 5688, Qt::AlignLeft}};
 
-constexpr int scatto = 10;        // ms
-constexpr int altezza_slot = 13;  // from the morning's first slot to the last of the day without a scroll
-constexpr int slot_in_vista = 34;
+constexpr int scatto = 10;  // ms
+constexpr int altezza_slot = 15;
+constexpr int slot_in_vista = 29;  // from seven in the morning to nine in the evening
 constexpr int lato_freccia = 22;
 
 /// The names of the days in two letters; the days themselves as the calendar draws them.
@@ -65,7 +65,7 @@ void Formagenda::disegna() {
   Timer1->setObjectName(u"Timer1"_s);
   Timer1->setInterval(scatto);
   auto* fila = new QHBoxLayout(this);
-  fila->setContentsMargins(4, 2, 4, 4);
+  fila->setContentsMargins(6, 4, 6, 6);
   fila->setSpacing(6);
   fila->addWidget(disegna_mese(), 1);
   fila->addLayout(disegna_giorno());
@@ -81,6 +81,7 @@ QWidget* Formagenda::disegna_mese() {
   Calendar1->setFixedHeight(230);
   if (auto* mese = Calendar1->findChild<QAbstractItemView*>(u"qt_calendar_calendarview"_s)) {
     mese->setItemDelegate(new DueLettere(mese));
+    mese->setAccessibleName(u"Calendario"_s);
   }
   Command1 = pulsante(u"Command1"_s, u"Chiudi l'agenda"_s, u"Salva il giorno e chiudi la finestra"_s, u"chiudi"_s);
   c.griglia->addLayout(barra({etichetta_di(u"Giorno"_s, Text1), Text1}, {}), 0, 0);
@@ -95,6 +96,7 @@ QWidget* Formagenda::disegna_mese() {
 QLayout* Formagenda::disegna_giorno() {
   DBGrid1 = griglia(u"DBGrid1"_s, colonne);
   DBGrid1->setToolTip(u"Impegni del giorno"_s);
+  DBGrid1->setAccessibleName(DBGrid1->toolTip());
   DBGrid1->setSelectionBehavior(QAbstractItemView::SelectItems);
   DBGrid1->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::SelectedClicked |
                            QAbstractItemView::EditKeyPressed | QAbstractItemView::AnyKeyPressed);

@@ -1,4 +1,5 @@
 #include "core/aspetto.h"
+#include "core/griglie.h"
 #include "core/schermate.h"
 #include "office/formrubrica.h"
 
@@ -79,7 +80,7 @@ void Formrubrica::disegna() {
   viste_->addWidget(disegna_dettaglio());
   c.griglia->addWidget(viste_, 0, 0);
   auto* fuori = new QVBoxLayout(this);
-  fuori->setContentsMargins(4, 4, 4, 6);
+  fuori->setContentsMargins(6, 4, 6, 6);
   fuori->addWidget(c.box);
 }
 
@@ -88,6 +89,7 @@ QWidget* Formrubrica::disegna_elenco() {
   DBList1 = nominato(new QListView, u"DBList1"_s, u"Persone in rubrica; doppio clic per richiamarne una"_s);
   DBList1->setAccessibleName(u"Persone in rubrica"_s);
   DBList1->setModel(&Data1);
+  distanzia_voci(DBList1);
   DBList1->setEditTriggers(QAbstractItemView::NoEditTriggers);
   DBList1->setUniformItemSizes(true);
   DBList1->setAlternatingRowColors(true);
@@ -116,6 +118,7 @@ QWidget* Formrubrica::disegna_dettaglio() {
   riga(*griglia, 0, u"Nome:"_s, Text1);
   riga(*griglia, 0, u"Cognome:"_s, Text2, 3);
   SSTab1 = nominato(new QTabWidget, u"SSTab1"_s);
+  SSTab1->setUsesScrollButtons(false);
   for (std::size_t s = 0; s < schede; ++s) {
     SSTab1->addTab(disegna_scheda(s), linguette[s].scritta.toString());
   }

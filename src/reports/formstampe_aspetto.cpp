@@ -23,7 +23,7 @@ void Formstampe::disegna() {
   c.griglia->addWidget(disegna_foglio(), 0, 0);
   c.griglia->addWidget(disegna_comandi(), 0, 1);
   auto* fuori = new QVBoxLayout(this);
-  fuori->setContentsMargins(4, 4, 4, 6);
+  fuori->setContentsMargins(6, 4, 6, 6);
   fuori->addWidget(c.box);
   setFixedSize(larghezza_schermo, altezza_schermo);
 }
@@ -43,6 +43,7 @@ QWidget* Formstampe::disegna_foglio() {
     s->setRange(0, 0);
     s->setPageStep(10);
     s->setFocusPolicy(Qt::StrongFocus);
+    s->setAccessibleName(s->toolTip());
   }
   g->addWidget(Picturesotto, 0, 0);
   g->addWidget(VScroll1, 0, 1);
