@@ -3,7 +3,6 @@
 #include "core/griglie.h"
 #include "core/schermate.h"
 
-#include <QHeaderView>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -163,7 +162,6 @@ QWidget* Formfunzio::disegna_esami() {
   const Cornice c = cornice(u"Esami di laboratorio"_s);
   MSFlex2 = griglia(u"MSFlex2"_s, colonne_esami);
   MSFlex2->setAccessibleName(u"Esami di laboratorio"_s);
-  MSFlex2->horizontalHeader()->setSectionResizeMode(5, QHeaderView::Stretch);
   MSFlex2->setEnabled(false);
   c.griglia->addWidget(MSFlex2, 0, 0);
   const std::array scritte{u"Nuovo esame"_s, u"Modifica esame selezionato"_s, u"Elimina esame selezionato"_s};

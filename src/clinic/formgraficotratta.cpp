@@ -1,5 +1,6 @@
 #include "clinic/formgraficotratta.h"
 
+#include "base/numeri.h"
 #include "core/aspetto.h"
 #include "core/regole.h"
 #include "core/schermate.h"
@@ -37,7 +38,7 @@ class ConValori : public QChartView {
     for (QAbstractSeries* s : chart()->series()) {
       const auto* linea = qobject_cast<QLineSeries*>(s);
       for (qsizetype i = 0; linea && i < linea->count(); ++i) {
-        const QString valore = QString::number(linea->at(static_cast<int>(i)).y());
+        const QString valore = testo(linea->at(static_cast<int>(i)).y());
         p->drawText(posto(*linea, i, p->fontMetrics().size(0, valore)), Qt::AlignCenter, valore);
       }
     }

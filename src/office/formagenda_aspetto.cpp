@@ -14,9 +14,9 @@ namespace {
 
 constexpr Colonna colonne[]{{u"Ora", 540, Qt::AlignHCenter}, {u"Promemoria", 5688, Qt::AlignLeft}};
 
-constexpr int scatto = 10;  // ms
-constexpr int altezza_slot = 15;
-constexpr int slot_in_vista = 29;  // from seven in the morning to nine in the evening
+constexpr int scatto = 10;        // ms
+constexpr int altezza_slot = 13;  // from the morning's first slot to the last of the day without a scroll
+constexpr int slot_in_vista = 34;
 constexpr int lato_freccia = 22;
 
 /// The names of the days in two letters; the days themselves as the calendar draws them.
@@ -65,7 +65,7 @@ void Formagenda::disegna() {
   Timer1->setObjectName(u"Timer1"_s);
   Timer1->setInterval(scatto);
   auto* fila = new QHBoxLayout(this);
-  fila->setContentsMargins(6, 4, 6, 6);
+  fila->setContentsMargins(6, 2, 6, 4);
   fila->setSpacing(6);
   fila->addWidget(disegna_mese(), 1);
   fila->addLayout(disegna_giorno());
