@@ -10,13 +10,13 @@
 #include "diet/bersagli.h"
 #include "diet/ricerca.h"
 #include "diet/selezione_automatica.h"
+#include "misure.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -44,13 +44,14 @@ struct Riepilogo {
     diversi.push_back(s.cibi_diversi);
   }
 
+  double percento() const { return ms.empty() ? 100 : 100.0 * intere / static_cast<double>(ms.size()); }
+
   void scrivi(const QString& nome) {
     if (ms.empty()) return;
-    const auto n = static_cast<double>(ms.size());
     for (auto* v : {&estrazioni, &diversi}) std::ranges::sort(*v);
     std::ranges::sort(ms);
     const auto meta = ms.size() / 2;
-    std::printf("%-28s %6zu %9.1f %9.2f %9.2f %9.2f %9d %9d\n", nome.toUtf8().constData(), ms.size(), 100 * intere / n,
+    std::printf("%-28s %6zu %9.1f %9.2f %9.2f %9.2f %9d %9d\n", nome.toUtf8().constData(), ms.size(), percento(),
                 100.0 * pasti_pieni / pasti_voluti, ms[meta], ms.back(), estrazioni[meta], diversi[meta]);
   }
 };
@@ -75,9 +76,7 @@ Settimana misura(std::uint64_t seme, F&& premi) {
                            return caso.rnd();
                          },
                          [] {}}};
-  const auto inizio = std::chrono::steady_clock::now();
-  premi(motore, tramite);
-  s.ms = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inizio).count();
+  s.ms = banco::millisecondi([&] { premi(motore, tramite); });
   std::vector<int> cibi;
   for (int i = 0; i < giorni * pasti; ++i) {
     s.pasti_pieni += motore.menu(1, i / pasti, i % pasti, 0).cod1 != 0;
@@ -102,6 +101,7 @@ void prepara(const QDir& lavoro) {
 void clienti_campione(int semi) {
   testata("Sample clients, one whole press");
   const QDir esempi(QStringLiteral(CARTELLA_ARCHIVI) + u"/esempi"_s);
+  double mediana = 0, peggiore = 0, intere = 100;
   for (const QString& nome : esempi.entryList({u"*.orzaline"_s}, QDir::Files, QDir::Name)) {
     sostituisci_file(esempi.filePath(nome), percorso(u"dati.tmp"_s));
     Riepilogo r;
@@ -109,7 +109,13 @@ void clienti_campione(int semi) {
       r.aggiungi(misura(static_cast<std::uint64_t>(seme), [](Motore& m, const Tramite& e) { elabora_dieta(m, e); }));
     }
     r.scrivi(nome);
+    mediana = std::max(mediana, banco::mediana(r.ms));
+    peggiore = std::max(peggiore, std::ranges::max(r.ms));
+    intere = std::min(intere, r.percento());
   }
+  banco::budget("Week elaborated, slowest sample client's median", semi, mediana, {10, "ms"});
+  banco::budget("Week elaborated, worst of all sample clients", semi, peggiore, {300, "ms"});
+  banco::budget("Weeks whole, sample client with the fewest", semi, intere, {98, "%", true});
 }
 
 struct Cliente {
@@ -176,6 +182,10 @@ void bersagli(int semi) {
   for (std::size_t i = 0; i < fasce.size(); ++i) fasce[i].scrivi(nomi[i]);
   tutti.scrivi(u"all"_s);
   veloci.scrivi(u"fast-food lunch alone"_s);
+  const auto n = static_cast<int>(tutti.ms.size());
+  banco::budget("Weeks whole, 200 targets", n, tutti.percento(), {98, "%", true});
+  banco::budget("Weeks whole, band of rations with the fewest", n,
+                 std::ranges::min(fasce, {}, &Riepilogo::percento).percento(), {90, "%", true});
 }
 
 }  // namespace

@@ -9,11 +9,9 @@
 #include "core/messaggi.h"
 #include "core/sessione.h"
 #include "diet/formalimenti.h"
+#include "misure.h"
 
-#include <QDir>
 #include <QTemporaryDir>
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -22,24 +20,12 @@ namespace {
 
 template <class F>
 void tempo(const char* che, int volte, F&& opera) {
-  std::vector<double> ms;
-  for (int i = 0; i < volte; ++i) {
-    const auto inizio = std::chrono::steady_clock::now();
-    opera();
-    QApplication::processEvents();
-    ms.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inizio).count());
-  }
-  std::ranges::sort(ms);
-  std::printf("%-40s %9.1f %9.1f\n", che, ms[ms.size() / 2], ms.back());
-}
-
-void posa_archivi(const QString& cartella) {
-  const QDir origine(QStringLiteral(CARTELLA_ARCHIVI));
-  for (const QString& nome : origine.entryList({u"*.jed"_s, u"*.chk"_s, u"*.gif"_s})) {
-    sostituisci_file(origine.filePath(nome), QDir(cartella).filePath(nome));
-  }
-  sostituisci_file(origine.filePath(u"esempi/1300_bianchi.orzaline"_s), QDir(cartella).filePath(u"dati.tmp"_s));
-  imposta_cartella(cartella);
+  banco::tempo(
+      che, volte, [] {},
+      [&] {
+        opera();
+        QApplication::processEvents();
+      });
 }
 
 void misura(int volte) {
@@ -71,7 +57,9 @@ int main(int argc, char** argv) {
   imposta_aspetto(app);
   const int volte = argc > 1 ? std::max(1, std::atoi(argv[1])) : 30;
   const QTemporaryDir cartella;
-  posa_archivi(cartella.path());
+  const QString archivi = QStringLiteral(CARTELLA_ARCHIVI);
+  banco::posa_archivi(archivi, cartella.path());
+  sostituisci_file(archivi + u"/esempi/1300_bianchi.orzaline"_s, percorso(u"dati.tmp"_s));
   parla_con([](const Riquadro&) { return true; });
   mostra<Mdiorza>();
   std::printf("%-40s %9s %9s\n", "", "median ms", "worst ms");

@@ -17,35 +17,32 @@
 #include "diet/formelabora.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
+#include "misure.h"
 #include "office/formagenda.h"
 #include "office/formrubrica.h"
 #include "reports/formstampe.h"
 
-#include <QDir>
-#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Times `opera`; what `prima` does each time before does not count.
-template <class P, class F>
-void tempo(const char* che, int volte, P&& prima, F&& opera) {
-  std::vector<double> ms;
-  for (int i = 0; i < volte; ++i) {
-    prima();
-    const auto inizio = std::chrono::steady_clock::now();
-    opera();
-    ms.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - inizio).count());
+using banco::tempo;
+
+/// The worst of the medians that one budget speaks of, and how many times were taken in all.
+struct Peggiore {
+  double ms = 0;
+  int volte = 0;
+  void aggiungi(const banco::Tempo& t, int quante) {
+    ms = std::max(ms, t.mediana);
+    volte += quante;
   }
-  std::ranges::sort(ms);
-  std::printf("%-32s %9.1f %9.1f\n", che, ms[ms.size() / 2], ms.back());
-}
+};
+Peggiore schermate, fogli;
 
 void dipingi() {
   QApplication::processEvents();
@@ -62,8 +59,8 @@ void apri_e_chiudi(const char* apre, const char* chiude, int volte) {
     scarica<S>();
     dipingi();
   };
-  tempo(apre, volte, chiudi, apri);
-  tempo(chiude, volte, apri, chiudi);
+  schermate.aggiungi(tempo(apre, volte, chiudi, apri), volte);
+  schermate.aggiungi(tempo(chiude, volte, apri, chiudi), volte);
 }
 
 /// A week of 25 foods a day and a diary of one page, in the client's file.
@@ -83,8 +80,9 @@ void riempi_cliente() {
 void disegna_rapporto(const char* che, const QString& codice, const QString& verso, int volte) {
   apri_stampa(codice, verso);
   Formstampe& f = *caricata<Formstampe>();
-  tempo(
-      che, volte, [&] { f.List1->setCurrentRow(1); }, [&] { f.List1->setCurrentRow(0); });
+  fogli.aggiungi(tempo(
+                     che, volte, [&] { f.List1->setCurrentRow(1); }, [&] { f.List1->setCurrentRow(0); }),
+                 volte);
   scarica<Formstampe>();
   dipingi();
 }
@@ -103,23 +101,11 @@ void salta(const char* che, int volte) {
   chiudi();
 }
 
-double memoria_mb() {
-  QFile f(u"/proc/self/status"_s);
-  if (!f.open(QIODevice::ReadOnly)) return 0;
-  for (const QByteArray& riga : f.readAll().split('\n')) {
-    if (riga.startsWith("VmRSS:")) return riga.mid(6).trimmed().split(' ').first().toDouble() / 1024;
-  }
-  return 0;
-}
-
 void schermi(int volte) {
   const QTemporaryDir cartella;
-  const QDir origine(QStringLiteral(CARTELLA_ARCHIVI));
-  for (const QString& nome : origine.entryList({u"*.jed"_s, u"*.chk"_s})) {
-    sostituisci_file(origine.filePath(nome), cartella.filePath(nome));
-  }
-  sostituisci_file(origine.filePath(u"esempi/1900_ferri.orzaline"_s), cartella.filePath(u"dati.tmp"_s));
-  imposta_cartella(cartella.path());
+  const QString archivi = QStringLiteral(CARTELLA_ARCHIVI);
+  banco::posa_archivi(archivi, cartella.path());
+  sostituisci_file(archivi + u"/esempi/1900_ferri.orzaline"_s, percorso(u"dati.tmp"_s));
   parla_con([](const Riquadro&) { return true; });
   mostra<Mdiorza>();
   apri_e_chiudi<Formanag>("master data opens", "master data closes", volte);
@@ -140,9 +126,13 @@ void schermi(int volte) {
   disegna_rapporto("day of a diet drawn", u"21"_s, u"v"_s, volte);
   disegna_rapporto("diary list drawn", u"8"_s, u"v"_s, volte);
   disegna_rapporto("calorie list drawn", u"7"_s, u"o"_s, volte);
-  std::printf("%-32s %9.1f MB\n", "memory with a client open", memoria_mb());
+  const double memoria = banco::memoria_mb();
+  std::printf("%-40s %9.1f MB\n", "memory with a client open", memoria);
   abbandona_schermate();
   chiudi_archivi();
+  banco::budget("Opening or leaving a screen, slowest of the medians", schermate.volte, schermate.ms, {50, "ms"});
+  banco::budget("Report page drawn, slowest of the medians", fogli.volte, fogli.ms, {50, "ms"});
+  banco::budget("Resident memory with a client open", 1, memoria, {150, "MB"});
 }
 
 }  // namespace
@@ -159,9 +149,10 @@ int main(int argc, char** argv) {
     return 0;
   }
   const int volte = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
-  std::printf("%-32s %9s %9s\n", "", "median ms", "worst ms");
-  tempo(
+  std::printf("%-40s %9s %9s\n", "", "median ms", "worst ms");
+  const auto inizio = tempo(
       "process start to login and end", volte, [] {},
       [&] { QProcess::execute(QApplication::applicationFilePath(), {u"accesso"_s}); });
+  banco::budget("Program start to login screen and end, median", volte, inizio.mediana, {500, "ms"});
   schermi(volte);
 }
