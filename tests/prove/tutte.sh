@@ -11,6 +11,7 @@ prove=(
   'release disco_pieno         17'         # 2 min
   'release chiamate            10000'      # 3 min
   'release permessi            1000 100'   # 1 min
+  'release lungo_uso    10000 80 56' # 5 min
   'release scala        5000'       # 2 min
 )
 
