@@ -12,6 +12,7 @@ prove=(
   'release chiamate            10000'      # 3 min
   'release permessi            1000 100'   # 1 min
   'release lungo_uso    10000 80 56' # 5 min
+  'release clienti      5000'       # 8 min
   'release scala        5000'       # 2 min
 )
 
