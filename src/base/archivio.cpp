@@ -103,7 +103,8 @@ int modo_di_apertura(Archivio::Modo modo) {
   return SQLite::OPEN_NOMUTEX | (modo == Archivio::Modo::sola_lettura ? SQLite::OPEN_READONLY : SQLite::OPEN_READWRITE);
 }
 
-/// A file that is missing or empty would pass for a new store with the engine; it is none.
+/// A file that is missing or empty would pass for a new store with the engine; it is none. What is no file at all is
+/// not opened: a pipe would wait for its writer for ever.
 void pretendi_file(const QString& file, Archivio::Modo modo) {
   const QFileInfo f(file);
   const std::string nome = f.fileName().toStdString();
@@ -112,6 +113,7 @@ void pretendi_file(const QString& file, Archivio::Modo modo) {
     return;
   }
   if (!f.exists()) throw Errore(3024, "Impossibile trovare il file '" + f.absoluteFilePath().toStdString() + "'.");
+  if (!f.isFile()) throw Errore(3051, "Impossibile aprire il file '" + nome + "'.");
   if (f.size() == 0) throw Errore(3343, "Il file '" + nome + "' è vuoto: non è un archivio.");
 }
 

@@ -30,13 +30,26 @@ constexpr QStringView tabelle[]{
     u"gruppi_esclusi",
 };
 
+/// Views, triggers, tables of modules, and expressions in a definition: these need a parenthesis of their own or a
+/// condition. The text counts, not the kind noted beside it: the engine goes by the text.
+const QString altro_che_tabelle =
+    u"SELECT 1 FROM sqlite_master WHERE (rootpage > 0 AND CASE type"
+    " WHEN 'table' THEN sql LIKE 'CREATE TABLE %(%)%' AND sql NOT LIKE '%(%(%'"
+    " WHEN 'index' THEN sql IS NULL OR (sql LIKE 'CREATE INDEX %(%)' OR sql LIKE 'CREATE UNIQUE INDEX %(%)')"
+    " AND sql NOT LIKE '%(%(%' END) IS NOT 1 LIMIT 1"_s;
+
 }  // namespace
 
 QString nome_cliente(const QString& cod, const QString& cognome) {
   return QString(cod + u'_' + cognome).replace(u'/', u'-');
 }
 
+void pretendi_sole_tabelle(Archivio& cliente) {
+  if (!cliente.righe(altro_che_tabelle).empty()) throw Errore(3343, "Il file del cliente contiene altro che tabelle.");
+}
+
 void verifica_cliente(Archivio& cliente) {
+  pretendi_sole_tabelle(cliente);
   if (cliente.righe(u"PRAGMA integrity_check"_s).front()[u"integrity_check"] != u"ok"_s) {
     throw Errore(3343, "Il file del cliente è danneggiato.");
   }

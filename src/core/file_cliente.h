@@ -6,5 +6,9 @@
 /// Name of a client's folder and, but for its ending, of the file: number, "_", surname. It never leads elsewhere.
 [[nodiscard]] QString nome_cliente(const QString& cod, const QString& cognome);
 
-/// Throws Errore 3343 where the store is damaged, 3078 where it lacks a table of a client's.
+/// Throws Errore 3343 where the store holds more than tables and their indices: whatever the engine would run by itself
+/// as soon as a table is read or written. To be called before any other look into a file that came from elsewhere.
+void pretendi_sole_tabelle(Archivio& cliente);
+
+/// Throws Errore 3343 where the store is damaged or holds more than tables, 3078 where it lacks a table of a client's.
 void verifica_cliente(Archivio& cliente);

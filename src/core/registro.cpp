@@ -4,6 +4,7 @@
 #include "base/file.h"
 #include "base/numeri.h"
 #include "core/attesa.h"
+#include "core/file_cliente.h"
 #include "core/formsched.h"
 #include "core/messaggi.h"
 #include "core/schermate.h"
@@ -87,6 +88,7 @@ void riempi_schedario(int tab) {
 
 void aggiungi_riga_schedario(const QString& file, int tab) {
   Archivio cliente(file, accesso, Archivio::Modo::sola_lettura);
+  pretendi_sole_tabelle(cliente);
   const auto righe =
       cliente.righe(u"SELECT cod, data_visita, cognome, nome, data_n, cod_fiscale FROM anagrafe LIMIT 1"_s);
   if (righe.empty() || !appartiene(righe.front()[u"cognome"].toString(), tab)) return;
