@@ -10,5 +10,6 @@
 /// as soon as a table is read or written. To be called before any other look into a file that came from elsewhere.
 void pretendi_sole_tabelle(Archivio& cliente);
 
-/// Throws Errore 3343 where the store is damaged or holds more than tables, 3078 where it lacks a table of a client's.
+/// Reads the whole file. Throws Errore 3343 where it is damaged or holds more than tables, 3078 where it lacks a table
+/// of a client's.
 void verifica_cliente(Archivio& cliente);
