@@ -6,14 +6,15 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 # program, sanitized or not, counts; about how long it takes
 prove=(
-  'release uccisioni           1000 2000'  # 8 min
-  'release uccisioni_programma 300'        # 6 min
-  'release disco_pieno         17'         # 2 min
-  'release chiamate            10000'      # 3 min
-  'release permessi            1000 100'   # 1 min
-  'release lungo_uso    10000 80 56' # 5 min
-  'release clienti      5000'       # 8 min
-  'release scala        5000'       # 2 min
+  'release uccisioni           1000 2000'        # 8 min
+  'release uccisioni_programma 300'              # 6 min
+  'release disco_pieno         17'               # 2 min
+  'release chiamate            10000'            # 3 min
+  'release permessi            1000 100'         # 1 min
+  'asan    mutanti             100000 1000 200'  # 20 min
+  'release lungo_uso           10000 80 56'      # 5 min
+  'release clienti             5000'             # 8 min
+  'release scala               5000'             # 2 min
 )
 
 for preset in release asan; do
