@@ -49,13 +49,18 @@ enum Codice {
     case sola_lettura: throw Errore(3027, "Impossibile aggiornare, il file '" + nome + "' è di sola lettura.");
     case io: throw Errore(3043, "Errore del disco sul file '" + nome + "'.");
     case pieno: throw Errore(3026, "Spazio su disco insufficiente per '" + nome + "'." + salvati_intatti);
-    case vincolo: throw Errore(3022, "Valori duplicati o non ammessi in '" + nome + "': " + dice);
+    case vincolo: throw Errore(3022, "Valori duplicati o non ammessi in '" + nome + "'.");
     case corrotto:
     case non_archivio:
       throw Errore(3343, "Il file '" + nome + "' è danneggiato, non è un archivio o ha un'altra password.");
     default: break;
   }
-  if (dice.starts_with("no such table")) throw Errore(3078, "Tabella non trovata in '" + nome + "': " + dice);
+  const std::string tabella = "no such table: ";
+  if (dice.starts_with(tabella)) {
+    throw Errore(3078, "Tabella '" + dice.substr(tabella.size()) + "' non trovata in '" + nome + "'.");
+  }
+  // What the engine says of a failed read that it can tell no more of.
+  if (dice.starts_with("SQL logic error")) throw Errore(3043, "Errore del disco sul file '" + nome + "'.");
   throw Errore(3075, "Errore in '" + nome + "': " + dice);
 }
 
