@@ -8,6 +8,7 @@
 #include "core/registro.h"
 #include "core/schermate.h"
 #include "core/sessione.h"
+#include "core/sezioni.h"
 #include "dialogo.h"
 
 #include <QDir>
@@ -40,13 +41,10 @@ class Ambiente : public ::testing::Test {
     }
     return righe;
   }
-  static QStringList banner() {
+  static QString banner() {
     const Mdiorza& m = schermata<Mdiorza>();
-    QStringList testi;
-    for (const QLineEdit* c : {m.Txtcod, m.Txtsoggetto, m.Txtsesso, m.Txtetà, m.Txtstatura, m.Txtpeso, m.Txtbmi}) {
-      testi << c->text();
-    }
-    return testi;
+    const std::array campi{m.Txtcod, m.Txtsoggetto, m.Txtsesso, m.Txtetà, m.Txtstatura, m.Txtpeso, m.Txtbmi};
+    return testi(campi, QStringLiteral("|"));
   }
 
   /// Puts a client's file into the archive as a general save would: folder, copy, row. Returns its number.
@@ -77,6 +75,17 @@ class Ambiente : public ::testing::Test {
     schermata<Formsched>().Command10[2]->click();
     return schermata<Mdiorza>().qualeform.text() == QStringLiteral("0");
   }
+  /// The main window in front of all: the focus moves only in an active one.
+  static void attiva_finestra() {
+    auto& m = schermata<Mdiorza>();
+    m.show();
+    m.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&m));
+  }
+  /// A field of the first row of a table of the working copy.
+  static QVariant campo(const QString& tabella, const QString& nome) {
+    return carica_riga(dati_tmp(), tabella).value(nome);
+  }
   /// Recalls a client and jumps to the elaboration.
   static bool apri_elaborazione(int cod) {
     if (!richiama(cod)) return false;
@@ -94,4 +103,19 @@ class Ambiente : public ::testing::Test {
   }
 
   const Esterno esterno_ = esterno();
+};
+
+/// A screen beside the main window.
+template <class S>
+class AmbienteDi : public Ambiente {
+ protected:
+  /// Opens it, or closes and opens it again.
+  void apri() {
+    scarica<S>();
+    mostra<S>();
+    f = caricata<S>();
+  }
+
+  Mdiorza& m = schermata<Mdiorza>();
+  S* f{};
 };

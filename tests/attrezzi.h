@@ -1,6 +1,7 @@
 // Tools of every test: files, and the number of an error.
 #pragma once
 
+#include "base/archivio.h"
 #include "base/errori.h"
 #include "stampa.h"
 
@@ -25,6 +26,17 @@ inline void scrivi(const QString& file, const QByteArray& dati) {
 inline QByteArray rovinato(QByteArray dati, qsizetype dove) {
   dati[dove] = static_cast<char>(dati[dove] ^ 1);
   return dati;
+}
+
+/// What a query gives: a blank between fields, a bar between rows.
+inline QString righe_di(auto&& a, const QString& sql) {
+  QStringList testi;
+  for (const Riga& r : a.righe(sql)) {
+    QStringList campi;
+    for (const QString& c : r.campi()) campi << r[c].toString();
+    testi << campi.join(u' ');
+  }
+  return testi.join(u'|');
 }
 
 /// The number of the error that comes out; 0 for none.

@@ -9,9 +9,11 @@
 #include <gtest/gtest.h>
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTest>
 #include <deque>
 #include <optional>
+#include <span>
 #include <vector>
 
 /// A box that must come: its words, its title, and the answer to it.
@@ -21,6 +23,12 @@ struct Atteso {
   bool risposta = true;
   std::optional<Icona> icona = {};  // not looked at where none is given
 };
+
+/// The same question, answered Yes.
+inline Atteso con_un_si(Atteso a) {
+  a.risposta = true;
+  return a;
+}
 
 /// Expected boxes in order; an unexpected one fails the test at once, one that does not come fails it at the end.
 class Dialogo {
@@ -73,6 +81,29 @@ class Fallimenti {
  private:
   Gestore prima_;
 };
+
+/// The texts of some boxes, a sign between.
+template <class Campi>
+QString testi(const Campi& campi, const QString& tra = QStringLiteral(" ")) {
+  QStringList t;
+  for (const auto* c : campi) t << c->text();
+  return t.join(tra);
+}
+
+/// Types a text in place of what stands in a box.
+inline void riscrivi(QLineEdit* campo, const QString& tasti) {
+  campo->clear();
+  QTest::keyClicks(campo, tasti);
+}
+
+inline void clic(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton); }
+
+/// Clicks on a cell of a grid or a line of a list.
+inline void clic(QAbstractItemView* vista, int riga, int colonna = 0) {
+  const QModelIndex dove = vista->model()->index(riga, colonna);
+  vista->scrollTo(dove);
+  QTest::mouseClick(vista->viewport(), Qt::LeftButton, {}, vista->visualRect(dove).center());
+}
 
 /// Chooses a line of a list as the user does: opens it, goes to the line, confirms.
 inline void scegli(QComboBox* lista, int riga) {

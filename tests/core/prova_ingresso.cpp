@@ -21,10 +21,8 @@ struct ProvaIngresso : Ambiente {
   /// Types both fields anew and presses Enter.
   static void entra(const QString& utente, const QString& password) {
     auto& login = schermata<frmLogin>();
-    login.txtUserName->clear();
-    login.txtPassword->clear();
-    QTest::keyClicks(login.txtUserName, utente);
-    QTest::keyClicks(login.txtPassword, password);
+    riscrivi(login.txtUserName, utente);
+    riscrivi(login.txtPassword, password);
     QTest::keyClick(login.txtPassword, Qt::Key_Return);
   }
 };

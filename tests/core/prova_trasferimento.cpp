@@ -46,8 +46,11 @@ struct ProvaTrasferimento : Ambiente {
     scrivi(file, dentro);
     return file;
   }
-  static int cod_nel_file(const QString& file) {
-    return Archivio(percorso(file)).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"].toInt();
+  /// What is imported, in the registry or not.
+  static QString importa(const QStringList& file, const std::deque<Atteso>& attesi) {
+    const Dialogo d(attesi);
+    importa_clienti(file);
+    return registro().join(u", "_s);
   }
   [[nodiscard]] QStringList cartelle() const {
     return QDir(cartella.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
@@ -58,20 +61,21 @@ struct ProvaTrasferimento : Ambiente {
 
 TEST_F(ProvaTrasferimento, ImportedClientsGetRowFolderWholeSurnameAndAFreeNumber) {
   const QString primo = straniero(u"a"_s, 12, u"DE ROSSI"_s), secondo = straniero(u"b"_s, 12, u"VERDI"_s);
-  const QString terzo = straniero(u"c"_s, 3, u"NERI"_s);
-  const QString esce = straniero(u"esce"_s, 6, u"X/../../ROSSI"_s);
   const QByteArray prima = contenuto(secondo);
-  Dialogo d({codice_preso(13), importata});
-  importa_clienti({primo, secondo, terzo, esce});
-  EXPECT_EQ(registro(), (QStringList{u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline"_s,
-                                     u"3 NERI 3_NERI/3_NERI.orzaline"_s, u"13 VERDI 13_VERDI/13_VERDI.orzaline"_s,
-                                     u"6 X/../../ROSSI 6_X-..-..-ROSSI/6_X-..-..-ROSSI.orzaline"_s}));
-  EXPECT_EQ(cod_nel_file(u"12_DE ROSSI/12_DE ROSSI.orzaline"_s), 12);
-  EXPECT_EQ(cod_nel_file(u"13_VERDI/13_VERDI.orzaline"_s), 13);
+  const QString dentro =
+      u"12 DE ROSSI 12_DE ROSSI/12_DE ROSSI.orzaline, 3 NERI 3_NERI/3_NERI.orzaline, 13 VERDI "
+      u"13_VERDI/13_VERDI.orzaline, "
+      "6 X/../../ROSSI 6_X-..-..-ROSSI/6_X-..-..-ROSSI.orzaline"_s;
+  EXPECT_EQ(importa({primo, secondo, straniero(u"c"_s, 3, u"NERI"_s), straniero(u"esce"_s, 6, u"X/../../ROSSI"_s)},
+                    {codice_preso(13), importata}),
+            dentro);
+  for (const auto& [file, cod] :
+       {std::pair{u"12_DE ROSSI/12_DE ROSSI.orzaline"_s, 12}, {u"13_VERDI/13_VERDI.orzaline"_s, 13}}) {
+    EXPECT_EQ(Archivio(percorso(file)).righe(u"SELECT cod FROM anagrafe"_s).front()[u"cod"].toInt(), cod);
+  }
   EXPECT_EQ(contenuto(secondo), prima);
-  d.attendi(codice_preso(14, false));
-  importa_clienti({primo, straniero(u"d"_s, 50, u"BLU"_s)});
-  EXPECT_EQ(registro().size(), 4) << "a No ends the whole import, without a word";
+  EXPECT_EQ(importa({primo, straniero(u"d"_s, 50, u"BLU"_s)}, {codice_preso(14, false)}), dentro)
+      << "a No ends the whole import, without a word";
 }
 
 TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
@@ -94,9 +98,7 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
                               QDir(fuori).filePath(u"manca.orzaline"_s)};
   const QStringList prima = cartelle();
   for (const QString& file : rifiutati) {
-    Dialogo d({importazione_fallita});
-    importa_clienti({file, buono_prima});
-    EXPECT_TRUE(registro().isEmpty()) << file.toStdString();
+    EXPECT_EQ(importa({file, buono_prima}, {importazione_fallita}), QString()) << file.toStdString();
     EXPECT_EQ(cartelle(), prima) << file.toStdString();
   }
 }
@@ -104,47 +106,39 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
 TEST_F(ProvaTrasferimento, AFileWithoutAClientEndsTheImportAfterTheEarlierOnes) {
   const QString vuoto = straniero(u"b"_s, 2, u"B"_s);
   Archivio(vuoto).esegui(u"DELETE FROM anagrafe"_s);
-  Dialogo d;
-  importa_clienti({straniero(u"a"_s, 1, u"A"_s), vuoto, straniero(u"c"_s, 3, u"C"_s)});
-  EXPECT_EQ(registro(), QStringList{u"1 A 1_A/1_A.orzaline"_s});
+  EXPECT_EQ(importa({straniero(u"a"_s, 1, u"A"_s), vuoto, straniero(u"c"_s, 3, u"C"_s)}, {}),
+            u"1 A 1_A/1_A.orzaline"_s);
 }
 
-TEST_F(ProvaTrasferimento, AFolderThatIsThereIsNotWrittenOver) {
-  scrivi(percorso(u"4_NERI/4_NERI.orzaline"_s), "di un altro");
-  Dialogo d({importata});
-  importa_clienti({straniero(u"a"_s, 4, u"NERI"_s)});
-  EXPECT_EQ(contenuto(percorso(u"4_NERI/4_NERI.orzaline"_s)), "di un altro");
-  EXPECT_EQ(registro().size(), 1);
-}
-
-TEST_F(ProvaTrasferimento, AnImportThatFailsInTheCopyLeavesARowForTheArchiveToRemove) {
+TEST_F(ProvaTrasferimento, WhatStandsWhereTheFolderWouldIsNotWrittenOver) {
+  const QString altrui = percorso(u"4_NERI/4_NERI.orzaline"_s);
+  scrivi(altrui, "di un altro");
   scrivi(percorso(u"8_BLU"_s), "un file, dove starebbe la cartella");
-  Dialogo d({importazione_fallita});
-  importa_clienti({straniero(u"a"_s, 8, u"BLU"_s)});
-  EXPECT_EQ(registro().size(), 1);
+  EXPECT_EQ(importa({straniero(u"a"_s, 4, u"NERI"_s)}, {importata}), u"4 NERI 4_NERI/4_NERI.orzaline"_s);
+  EXPECT_EQ(contenuto(altrui), "di un altro");
+  schedario().esegui(u"DELETE FROM schedario"_s);
+  EXPECT_NE(importa({straniero(u"b"_s, 8, u"BLU"_s)}, {importazione_fallita}), QString());
   schermata<Mdiorza>().cmdsopra[0]->click();
-  EXPECT_TRUE(registro().isEmpty());
+  EXPECT_TRUE(registro().isEmpty()) << "the archive removes the row of a copy that failed";
 }
 
 TEST_F(ProvaTrasferimento, AnExportIsTheFileByteForByte) {
   const int cod = registra(cliente("1900_ferri"));
   const QByteArray file = contenuto(iscritto(cod)->file);
-  const QString meta = QDir(fuori).filePath(u"2_FERRI.orzaline"_s);
-  grezzo(u"2_FERRI"_s, "vecchio");
-  Dialogo d({copiare(u"FERRI"_s, meta, false), esportazione_fallita});
-  esporta_cliente(cod, fuori);
-  EXPECT_EQ(contenuto(meta), "vecchio");
-  d.attendi(copiare(u"FERRI"_s, meta));
-  d.attendi(esportato);
-  esporta_cliente(cod, fuori + u'/');
-  EXPECT_EQ(contenuto(meta), file);
-  d.attendi(esportazione_fallita);
-  esporta_cliente(99, fuori);
-  d.attendi(copiare(u"FERRI"_s, percorso(u"manca/2_FERRI.orzaline"_s)));
-  d.attendi(esportazione_fallita);
-  esporta_cliente(cod, percorso(u"manca"_s));
+  const QString meta = grezzo(u"2_FERRI"_s, "vecchio"), manca = percorso(u"manca"_s);
+  const Atteso chiede = copiare(u"FERRI"_s, meta);
+  const std::tuple<int, QString, std::deque<Atteso>, QByteArray> casi[]{
+      {cod, fuori, {copiare(u"FERRI"_s, meta, false), esportazione_fallita}, "vecchio"},
+      {cod, fuori + u'/', {chiede, esportato}, file},
+      {99, fuori, {esportazione_fallita}, file},
+      {cod, manca, {copiare(u"FERRI"_s, manca + u"/2_FERRI.orzaline"_s), esportazione_fallita}, file}};
+  for (const auto& [chi, dove, attesi, dopo] : casi) {
+    const Dialogo d(attesi);
+    esporta_cliente(chi, dove);
+    EXPECT_EQ(contenuto(meta), dopo);
+  }
   QFile::remove(iscritto(cod)->file);
-  d.attendi(esportazione_fallita);
+  const Dialogo d({esportazione_fallita});
   esporta_cliente(cod, fuori);
 }
 
@@ -155,21 +149,19 @@ TEST_F(ProvaTrasferimento, TheScreenExportsTheChosenClientAndImportsTheChosenFil
   straniero(u"a"_s, 1, u"ALBA"_s);
   straniero(u"b"_s, 2, u"BRUNI"_s);
   scrivi(QDir(fuori).filePath(u"lettera.txt"_s), "Gentile");
-  ASSERT_TRUE(f.Dir2->vai(fuori));
+  ASSERT_TRUE(f.Dir2->vai(fuori) && f.Dir1->vai(fuori));
   EXPECT_EQ(f.File1->count(), 2);
   EXPECT_FALSE(f.Cmdimp->isEnabled());
   f.File1->selectAll();
-  Dialogo d({importata});
+  const QString meta = QDir(fuori).filePath(u"2_BRUNI.orzaline"_s);
+  const Dialogo d({importata, copiare(u"BRUNI"_s, meta), esportato});
   f.Cmdimp->click();
   EXPECT_EQ(f.Cmdimp->text(), u"Importa"_s);
   EXPECT_FALSE(f.Animation->isVisible());
   ASSERT_EQ(f.MSFlexGrid1->rowCount(), 2);
   f.MSFlexGrid1->selectRow(1);
-  ASSERT_TRUE(f.Dir1->vai(fuori));
-  d.attendi(copiare(u"BRUNI"_s, QDir(fuori).filePath(u"2_BRUNI.orzaline"_s)));
-  d.attendi(esportato);
   f.Command2->click();
-  EXPECT_EQ(contenuto(QDir(fuori).filePath(u"2_BRUNI.orzaline"_s)), contenuto(iscritto(2)->file));
+  EXPECT_EQ(contenuto(meta), contenuto(iscritto(2)->file));
 }
 
 TEST_F(ProvaTrasferimento, ADriveThatDoesNotAnswerLeavesTheListsWhereTheyWere) {
@@ -192,17 +184,15 @@ TEST_F(ProvaTrasferimento, ADriveThatDoesNotAnswerLeavesTheListsWhereTheyWere) {
 TEST_F(ProvaTrasferimento, FoldersAreWalkedDownAndUp) {
   QDir(fuori).mkpath(u"anno 2026/marzo"_s);
   ASSERT_TRUE(f.Dir1->vai(fuori));
-  const auto apri = [&](const QString& nome) {
+  for (const auto& [nome, arrivo] :
+       {std::pair{u"anno 2026"_s, u"/anno 2026"_s}, {u"marzo"_s, u"/anno 2026/marzo"_s}, {u"fuori"_s, u""_s}}) {
     for (int i = 0; i < f.Dir1->count(); ++i) {
-      if (f.Dir1->item(i)->text().trimmed() == nome) return emit f.Dir1->itemActivated(f.Dir1->item(i));
+      if (f.Dir1->item(i)->text().trimmed() != nome) continue;
+      emit f.Dir1->itemActivated(f.Dir1->item(i));
+      break;
     }
-    FAIL() << nome.toStdString();
-  };
-  apri(u"anno 2026"_s);
-  apri(u"marzo"_s);
-  EXPECT_EQ(f.Dir1->cartella(), fuori + u"/anno 2026/marzo"_s);
-  apri(u"fuori"_s);
-  EXPECT_EQ(f.Dir1->cartella(), fuori);
+    EXPECT_EQ(f.Dir1->cartella(), fuori + arrivo);
+  }
   EXPECT_FALSE(f.Dir1->vai(fuori + u"/manca"_s));
   EXPECT_EQ(f.Dir1->cartella(), fuori);
 }
