@@ -43,8 +43,7 @@ TEST(AttivitàSportive, LunchOrDinnerTakesTheDifference) {
       {"decimals are dropped but for the mains", u'-', false, {11.9, 36.5, 7, 37.5, 7}, 37, 38},
   };
   for (const Caso& c : casi) {
-    const PastiPrincipali r = ribilanciati(c.segno, c.di_pranzo, c.percentuali);
-    EXPECT_EQ(r.pranzo, c.pranzo) << c.che;
-    EXPECT_EQ(r.cena, c.cena) << c.che;
+    const auto [pranzo, cena] = ribilanciati(c.segno, c.di_pranzo, c.percentuali);
+    EXPECT_EQ(std::pair(int{pranzo}, int{cena}), std::pair(c.pranzo, c.cena)) << c.che;
   }
 }

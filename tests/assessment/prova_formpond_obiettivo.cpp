@@ -19,27 +19,19 @@ struct ProvaObiettivo : Ambiente {
 
   /// At another weight than the stored one the plan is not restored.
   void apri(const QString& peso = {}) {
-    m.show();
-    m.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m) && richiama(registra(cliente("1300_bianchi"))));
+    attiva_finestra();
+    ASSERT_TRUE(richiama(registra(cliente("1300_bianchi"))));
     if (!peso.isEmpty()) caricata<Formanag>()->Txtpeso->setText(peso);
     m.cmdsopra[3]->click();
     f = caricata<Formpond>();
     ASSERT_TRUE(f);
   }
-  template <std::size_t N>
-  static QString testi(const std::array<QLineEdit*, N>& campi) {
-    QStringList t;
-    for (const QLineEdit* c : campi) t << c->text();
-    return t.join(u' ');
-  }
   [[nodiscard]] QString obiettivo() const { return testi(f->Text10); }
   [[nodiscard]] QString nutrienti() const {
-    return QStringList{f->Txtprotg_Kg->text(), f->Txtlipg_Kg->text(), testi(f->Text13), testi(f->Text11),
-                       testi(f->Text12)}
-        .join(u" | ");
+    return testi(std::array{f->Txtprotg_Kg, f->Txtlipg_Kg}, u" | "_s) + u" | "_s + testi(f->Text13) + u" | "_s +
+           testi(f->Text11) + u" | "_s + testi(f->Text12);
   }
-  void scegli_figura(std::size_t metodo) const { QTest::mouseClick(f->Image1[metodo], Qt::LeftButton); }
+  void scegli_figura(std::size_t metodo) const { clic(f->Image1[metodo]); }
   /// Holds a button until a field reads so, or until the timer stops by itself. False where it never ran.
   static bool tieni(QPushButton* tasto, QTimer* timer, QLineEdit* campo, const QString& fino_a) {
     const QObject finche;
@@ -87,7 +79,7 @@ TEST_F(ProvaObiettivo, GramsSetByHandOutliveAChangeOfMethod) {
 TEST_F(ProvaObiettivo, ButtonsMoveTargetDaysAndRation) {
   apri();
   scegli_figura(0);
-  QTest::mouseClick(f->CmdSU2[0], Qt::LeftButton);
+  clic(f->CmdSU2[0]);
   EXPECT_EQ(f->txtpesoragg->text() + u' ' + obiettivo(), u"53 1709 1366 343 49 103 5"_s);
   EXPECT_TRUE(tieni(f->CmdSU2[1], f->Timer2, f->Text10[4], u"120"_s));
   EXPECT_EQ(obiettivo(), u"1709 1415 294 42 120 5"_s);
@@ -133,7 +125,7 @@ TEST_F(ProvaObiettivo, MissingAndSenselessFiguresAreTakenCalmly) {
   scegli_figura(0);
   for (const QString& t : {u"'"_s, u""_s, u"99999"_s, u"-5"_s, u"99999999999999999999"_s, u"72,5"_s}) {
     for (QLineEdit* c : {f->txtpesoragg, f->Text10[4], f->Txtprotg_Kg, f->Text13[0], f->Text13[1]}) c->setText(t);
-    QTest::mouseClick(f->CmdSU2[0], Qt::LeftButton);
+    clic(f->CmdSU2[0]);
     for (QPushButton* b : {f->CmdSU[0], f->CmdSU[1]}) b->click();
     f->calcola_kcal();
   }
