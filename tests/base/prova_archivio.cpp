@@ -59,10 +59,12 @@ TEST_F(ProvaArchivio, WhatIsNoStoreIsRefusedAndLeftUntouched) {
 TEST_F(ProvaArchivio, AFailedGroupOfWritesLeavesNothing) {
   Archivio a(nuovo(u"a.jed"_s));
   const auto gruppo = [&] {
-    a.esegui(u"DELETE FROM t"_s);
-    a.esegui(u"INSERT INTO manca VALUES (1)"_s);
+    a.transazione([&] {
+      a.esegui(u"DELETE FROM t"_s);
+      a.esegui(u"INSERT INTO manca VALUES (1)"_s);
+    });
   };
-  EXPECT_EQ(numero_errore([&] { a.transazione(gruppo); }), 3078);
+  EXPECT_EQ(numero_errore(gruppo), 3078);
   EXPECT_EQ(a.righe(u"SELECT * FROM t"_s).size(), 300U);
 }
 

@@ -14,8 +14,7 @@ TEST(Numeri, TypedTextIsReadUnderTheLocale) {
     EXPECT_DOUBLE_EQ(valore(testo), vale);
   }
   const QString enorme(400, u'9');
-  for (const QStringView testo :
-       std::initializer_list<QStringView>{u"", u" ", u"12a", u"1,2,3", u"-", u"1e3", enorme}) {
+  for (const QStringView testo : std::vector<QStringView>{u"", u" ", u"12a", u"1,2,3", u"-", u"1e3", enorme}) {
     EXPECT_FALSE(numerico(testo)) << testo.toString().toStdString();
     EXPECT_THROW((void)valore(testo), Errore);
   }
@@ -36,13 +35,9 @@ TEST(Numeri, FormatsRoundTiesAwayFromZeroOnTheDecimalText) {
 }
 
 TEST(Numeri, SixteenBitResultsRoundTiesToEvenAndOverflow) {
-  EXPECT_EQ(round16(2.5), 2);
-  EXPECT_EQ(round16(3.5), 4);
-  EXPECT_EQ(round16(-2.5), -2);
-  EXPECT_EQ(round16(32767.4), 32767);
-  for (const double x : {32767.5, -32769.0, 1e9}) {
-    EXPECT_EQ(numero_errore([x] { round16(x); }), 6) << x;
-  }
+  for (const auto& [x, atteso] : {std::pair{2.5, 2}, {3.5, 4}, {-2.5, -2}, {32767.4, 32767}})
+    EXPECT_EQ(round16(x), atteso);
+  for (const double x : {32767.5, -32769.0, 1e9}) EXPECT_EQ(numero_errore([x] { round16(x); }), 6) << x;
 }
 
 TEST(Date, TypedDatesOfAnyCommonShape) {
