@@ -2,7 +2,6 @@
 #include "clinic/formfunzio.h"
 
 #include "clinic/formesami.h"
-#include "core/formnote.h"
 #include "core/mdiorza.h"
 #include "core/salva_carica.h"
 #include "core/sezioni.h"
@@ -13,26 +12,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ProvaFunzionale : Ambiente {
-  Mdiorza& m = schermata<Mdiorza>();
-  Formfunzio* f{};
-
+struct ProvaFunzionale : AmbienteDi<Formfunzio> {
   void SetUp() override {
-    mostra<Mdiorza>();
-    m.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&m));  // the focus moves only in an active window
+    attiva_finestra();
     m.Txtsesso->setText(u"M"_s);
     apri();
   }
-  void apri() {
-    scarica<Formfunzio>();
-    mostra<Formfunzio>();
-    f = caricata<Formfunzio>();
+  [[nodiscard]] std::array<QLabel*, 5> fattori() const {
+    return {f->LabRapporto, f->LabAddome, f->LabSituazioni[0], f->LabSituazioni[1], f->LabSituazioni[2]};
   }
-  [[nodiscard]] QString segni() const {
-    return f->LabRapporto->text() + u'|' + f->LabAddome->text() + u'|' + f->LabSituazioni[0]->text() + u'|' +
-           f->LabSituazioni[1]->text() + u'|' + f->LabSituazioni[2]->text();
-  }
+  [[nodiscard]] QString segni() const { return testi(fattori(), u"|"_s); }
   [[nodiscard]] QString riga(int r) const {
     QStringList celle;
     for (int c = 0; c < f->MSFlex2->columnCount(); ++c) celle << f->MSFlex2->item(r, c)->text();
@@ -40,12 +29,12 @@ struct ProvaFunzionale : Ambiente {
   }
   static Formesami& esame() { return schermata<Formesami>(); }
   void nuovo_esame(const QString& data, const QString& nome, const QString& valore) {
-    QTest::mouseClick(f->Command6[0], Qt::LeftButton);
+    clic(f->Command6[0]);
     ASSERT_TRUE(QTest::qWaitForWindowActive(&esame()));
     QTest::keyClicks(esame().Textdata, data);
     QTest::keyClicks(esame().Textesame, nome);
     QTest::keyClicks(esame().Textvalore, valore);
-    QTest::mouseClick(esame().Command1[0], Qt::LeftButton);
+    clic(esame().Command1[0]);
   }
   static std::vector<QVariantMap> righe(const QString& tabella) { return carica_righe(dati_tmp(), tabella); }
 };
@@ -82,10 +71,9 @@ TEST_F(ProvaFunzionale, MeasuresAndChoicesGetTheirMarks) {
 TEST_F(ProvaFunzionale, TheCountFollowsAndNamesTheLevel) {
   const std::array livelli{u""_s,        u"Presente"_s,      u"Aumentato"_s,
                            u"Elevato"_s, u"Molto elevato"_s, u"Estremamente elevato"_s};
-  const std::array segni{f->LabRapporto, f->LabAddome, f->LabSituazioni[0], f->LabSituazioni[1], f->LabSituazioni[2]};
   EXPECT_EQ(f->TxtIndici->text(), u"0"_s);
-  for (std::size_t n = 1; n <= segni.size(); ++n) {
-    segni[n - 1]->setText(u"+"_s);
+  for (std::size_t n = 1; n < livelli.size(); ++n) {
+    fattori()[n - 1]->setText(u"+"_s);
     QTRY_COMPARE_WITH_TIMEOUT(f->TxtIndici->text(), QString::number(n), 2000);
     EXPECT_EQ(f->TxtLivello->text(), livelli[n]);
   }
@@ -161,45 +149,34 @@ TEST_F(ProvaFunzionale, ANumberBeyondItsFieldEndsTheProgramAndLeavesTheRestWhole
 }
 
 TEST_F(ProvaFunzionale, ExamsAreAddedChangedAndRemoved) {
-  const auto abilitati = [&] {
-    return f->MSFlex2->isEnabled() && f->Command6[1]->isEnabled() && f->Command6[2]->isEnabled();
+  const auto abilitati = [this] {
+    EXPECT_EQ(f->MSFlex2->isEnabled(), f->Command6[1]->isEnabled());
+    EXPECT_EQ(f->MSFlex2->isEnabled(), f->Command6[2]->isEnabled());
+    return f->MSFlex2->isEnabled();
   };
-  EXPECT_FALSE(f->MSFlex2->isEnabled() || f->Command6[1]->isEnabled() || f->Command6[2]->isEnabled());
+  EXPECT_FALSE(abilitati());
   nuovo_esame(u"1-2-26"_s, u"Glicemia"_s, u"92"_s);
   nuovo_esame(u"ieri"_s, u"Colesterolo"_s, u"> 4"_s);
   EXPECT_TRUE(abilitati());
-  EXPECT_EQ(riga(0), u"01/02/2026|Glicemia|92|||"_s);
   f->MSFlex2->selectRow(0);
-  QTest::mouseClick(f->Command6[1], Qt::LeftButton);
-  EXPECT_EQ(esame().windowTitle(), u"Modifica esame esistente"_s);
-  EXPECT_EQ(esame().Textdata->text() + esame().Textvalore->text(), u"01/02/202692"_s);
-  QTest::keyClicks(esame().Txtreferto, u"nella norma"_s);
-  QTest::keyClick(&esame(), Qt::Key_Escape);
-  EXPECT_EQ(riga(0), u"01/02/2026|Glicemia|92|||"_s);
-  QTest::mouseClick(f->Command6[1], Qt::LeftButton);
-  esame().Textmin->setText(u"70"_s);
-  esame().Textmax->setText(u"100"_s);
-  esame().Txtreferto->setText(u"nella norma"_s);
-  QTest::keyClick(esame().Txtreferto, Qt::Key_Return);
-  EXPECT_EQ(caricata<Formesami>(), nullptr);
+  for (const bool tenuto : {false, true}) {
+    EXPECT_EQ(riga(0), u"01/02/2026|Glicemia|92|||"_s);
+    clic(f->Command6[1]);
+    EXPECT_EQ(esame().windowTitle(), u"Modifica esame esistente"_s);
+    EXPECT_EQ(esame().Textdata->text() + esame().Textvalore->text(), u"01/02/202692"_s);
+    esame().Textmin->setText(u"70"_s);
+    esame().Textmax->setText(u"100"_s);
+    esame().Txtreferto->setText(u"nella norma"_s);
+    QTest::keyClick(esame().Txtreferto, tenuto ? Qt::Key_Return : Qt::Key_Escape);
+    EXPECT_EQ(caricata<Formesami>(), nullptr);
+  }
   apri();
   EXPECT_EQ(riga(0), u"01/02/2026|Glicemia|nella norma|92|70|100"_s) << "the report comes back under the value";
   EXPECT_EQ(riga(1), u"|Colesterolo||> 4||"_s) << "what is no date is not stored";
   apri();
   EXPECT_EQ(riga(0), u"01/02/2026|Glicemia|100|nella norma|92|70"_s) << "and moves on at each save and load";
-  for (int i = 0; i < 2; ++i) QTest::mouseClick(f->Command6[2], Qt::LeftButton);
-  EXPECT_FALSE(f->MSFlex2->isEnabled() || f->Command6[1]->isEnabled() || f->Command6[2]->isEnabled());
-  EXPECT_EQ(m.focusWidget(), f->Command6[0]);
+  for (int i = 0; i < 2; ++i) clic(f->Command6[2]);
+  EXPECT_FALSE(abilitati());
   scarica<Formfunzio>();
   EXPECT_TRUE(righe(u"esami"_s).empty());
-}
-
-TEST_F(ProvaFunzionale, NotesGoToTheEditorAndBack) {
-  f->Text1[3]->setText(u"soffio\nlieve"_s);
-  QTest::mouseClick(f->Command1[3], Qt::LeftButton);
-  auto& nota = schermata<Formnote>();
-  EXPECT_EQ(nota.Labcat->text() + u'/' + nota.labchi->text(), u"Anamnesi/Polso/Cuore/Circolo"_s);
-  QTest::mouseClick(nota.cmdclosenote, Qt::LeftButton);
-  apri();
-  EXPECT_EQ(f->Text1[3]->text(), u"soffio\nlieve "_s) << "each opening adds a blank, and it is stored";
 }
