@@ -1,13 +1,8 @@
-// Stage 7 as the practitioner uses it: lunch and way of choosing, meals, boxes, marks, supplements, and the diet from
-// it.
+// Stage 7 as the practitioner uses it: lunch and way of choosing, meals, boxes, marks, supplements.
 #include "ambiente.h"
 #include "core/mdiorza.h"
 #include "diary/formintegrat.h"
 #include "diet/formalimenti.h"
-#include "diet/formelabora.h"
-
-#include <map>
-#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +16,7 @@ Atteso rifiuto(const QString& giorni) {
           u""_s};
 }
 
-class ProvaAlimenti : public Ambiente {
- protected:
-  ProvaAlimenti() {
-    motore() = {};
-    caso_in_uso() = caso_con_seme(7);
-  }
+struct ProvaAlimenti : AmbienteDi<Formalimenti> {
   void SetUp() override {
     mostra<Mdiorza>();
     ASSERT_TRUE(richiama(registra(cliente("1900_ferri"))));
@@ -37,16 +27,15 @@ class ProvaAlimenti : public Ambiente {
     for (const char* tabella : {"alimenti", "alimenti_spuntati", "checkAlimentiSpuntati"}) {
       dati_tmp().esegui(u"DELETE FROM "_s + QString::fromLatin1(tabella));
     }
-    schermata<Mdiorza>().cmdsopra[4]->click();
+    m.cmdsopra[4]->click();
     f = caricata<Formalimenti>();
     ASSERT_NE(f, nullptr);
   }
   void riapri() {
     scarica<Formalimenti>();
-    mostra<Formalimenti>();
-    f = caricata<Formalimenti>();
-    ASSERT_NE(f, nullptr);
-    ASSERT_EQ(schermata<Mdiorza>().qualeform.text(), u"7"_s);
+    EXPECT_EQ(m.qualeform.text(), u"-1"_s);
+    apri();
+    EXPECT_EQ(m.qualeform.text(), u"7"_s);
   }
   void passi(std::size_t tipo, std::size_t modo) {
     clic(f->OptFF[tipo]);
@@ -59,46 +48,23 @@ class ProvaAlimenti : public Ambiente {
   QCheckBox* casella(const QString& nome) const { return f->findChild<QCheckBox*>(nome); }
 
   [[nodiscard]] QModelIndex cella(const QString& alimento, int colonna) const {
-    for (int r = 0; r < f->MSFlex1->model()->rowCount(); ++r) {
-      const QModelIndex i = f->MSFlex1->model()->index(r, colonna_di::nome);
-      if (i.data().toString() == alimento) return i.siblingAtColumn(colonna);
-    }
-    ADD_FAILURE() << "not in the grid: " << alimento.toStdString();
-    return {};
+    const auto* g = f->MSFlex1->model();
+    const auto trovati = g->match(g->index(0, colonna_di::nome), Qt::DisplayRole, alimento, 1, Qt::MatchExactly);
+    return trovati.value(0).siblingAtColumn(colonna);
   }
-  void tocca(const QString& alimento, int colonna) {
-    f->MSFlex1->scrollTo(cella(alimento, colonna));
-    QTest::mouseClick(f->MSFlex1->viewport(), Qt::LeftButton, {},
-                      f->MSFlex1->visualRect(cella(alimento, colonna)).center());
-  }
+  void tocca(const QString& alimento, int colonna) { ::clic(f->MSFlex1, cella(alimento, colonna).row(), colonna); }
   [[nodiscard]] bool segnato(const QString& alimento, int colonna) const {
     return !cella(alimento, colonna).data(Qt::DecorationRole).isNull();
   }
   [[nodiscard]] int segnati(int colonna) const {
     int n = 0;
-    const auto* m = f->MSFlex1->model();
-    for (int r = 0; r < m->rowCount(); ++r) n += m->index(r, colonna).data(Qt::DecorationRole).isNull() ? 0 : 1;
+    for (int r = 0; r < righe(); ++r) n += !f->MSFlex1->model()->index(r, colonna).data(Qt::DecorationRole).isNull();
     return n;
   }
   [[nodiscard]] int righe() const { return f->MSFlex1->model()->rowCount(); }
   static qlonglong conta(const QString& dove) {
     return dati_tmp().righe(u"SELECT count(*) AS n FROM "_s + dove).front()[u"n"].toLongLong();
   }
-  static int pranzoFF() {
-    const auto r = dati_tmp().righe(u"SELECT pranzoFF FROM alimenti"_s);
-    return r.empty() ? 0 : r.front()[u"pranzoFF"].toInt();
-  }
-  /// Fills the window that opened because there was no supplement, and saves it.
-  static void inserisci_integratore(const QString& grammi) {
-    auto* finestra = caricata<Formintegrat>();
-    ASSERT_NE(finestra, nullptr);
-    const std::array testi{u"Proteine d'uovo"_s, QString(), u"80"_s, u"2"_s, u"6"_s, grammi};
-    for (std::size_t i = 0; i < testi.size(); ++i) {
-      if (i != 1) finestra->Text1[i]->setText(testi[i]);
-    }
-    clic(finestra->Command1[0]);
-  }
-  Formalimenti* f{};
 };
 
 }  // namespace
@@ -106,29 +72,26 @@ class ProvaAlimenti : public Ambiente {
 TEST_F(ProvaAlimenti, TwoStepsComeBeforeTheMealsOfANewClient) {
   dati_tmp().esegui(u"UPDATE consumi SET spuntino=0, colazione=NULL"_s);
   apri_nuovo();
-  EXPECT_TRUE(f->FrameSceltaFF->isVisible() && !f->FramePulsantiPasti->isVisible());
+  const auto in_vista = [this] { return f->FrameSceltaFF->isVisible() ? 1 : f->MSFlex1->isVisible() ? 3 : 2; };
   clic(f->CmdContinuaFF);
-  EXPECT_TRUE(f->FrameSceltaFF->isVisible()) << "nothing is chosen yet";
+  EXPECT_EQ(in_vista(), 1) << "nothing is chosen yet";
   clic(f->OptFF[1]);
   clic(f->CmdContinuaFF);
-  EXPECT_TRUE(f->FrameSceltaAlimenti->isVisible() && !f->FrameSceltaFF->isVisible());
   clic(f->CmdContinuaAlimenti);
-  EXPECT_FALSE(f->MSFlex1->isVisible());
+  EXPECT_EQ(in_vista(), 2);
   clic(f->OptAlim[0]);
   clic(f->CmdContinuaAlimenti);
-  EXPECT_TRUE(f->FramePulsantiPasti->isVisible() && f->MSFlex1->isVisible());
-  EXPECT_FALSE(f->CmdPasto[colazione]->isEnabled() || f->CmdPasto[colazione_bio]->isEnabled() ||
-               f->CmdPasto[spuntino]->isEnabled());
+  EXPECT_EQ(in_vista(), 3);
+  for (const auto senza_quota : {colazione, colazione_bio, spuntino})
+    EXPECT_FALSE(f->CmdPasto[senza_quota]->isEnabled());
   EXPECT_GT(conta(u"alimenti_spuntati WHERE pasto=4 AND cod1=7 AND ok"_s), 0) << "chosen by the program at once";
   pasto(pranzo);
   EXPECT_TRUE(casella(u"CheckPranzoFF_0"_s)->isVisible() && !casella(u"CheckPranzoFF_5"_s)->isChecked());
-  scarica<Formalimenti>();
-  EXPECT_EQ(pranzoFF(), 12);
-  EXPECT_EQ(schermata<Mdiorza>().qualeform.text(), u"-1"_s);
   riapri();
+  EXPECT_EQ(campo(u"alimenti"_s, u"pranzoFF"_s), 12);
   EXPECT_TRUE(f->OptFF[1]->isChecked());
   clic(f->CmdContinuaFF);
-  EXPECT_TRUE(f->FramePulsantiPasti->isVisible()) << "the second step is passed over";
+  EXPECT_EQ(in_vista(), 3) << "the second step is passed over";
 }
 
 TEST_F(ProvaAlimenti, ChoicesByHandComeBackMealByMealAndVisitByVisit) {
@@ -197,7 +160,7 @@ TEST_F(ProvaAlimenti, AnotherLunchDropsItsListAndKeepsTheDinners) {
   pasto(pranzo);
   EXPECT_EQ(segnati(colonna_di::lv), 1) << "the new list stays from then on";
   scarica<Formalimenti>();
-  EXPECT_EQ(pranzoFF(), 14);
+  EXPECT_EQ(campo(u"alimenti"_s, u"pranzoFF"_s), 14);
 }
 
 TEST_F(ProvaAlimenti, TheKeyboardAndTheStageButtonsStoreTheMealOnDisplay) {
@@ -208,8 +171,8 @@ TEST_F(ProvaAlimenti, TheKeyboardAndTheStageButtonsStoreTheMealOnDisplay) {
   f->MSFlex1->setCurrentIndex(prima);
   for (const auto tasto : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Space}) QTest::keyClick(f->MSFlex1, tasto);
   EXPECT_TRUE(prima.data(Qt::DecorationRole).isNull());
-  schermata<Mdiorza>().cmdsopra[10]->click();  // the popup of the reports saves the stage in front
-  schermata<Mdiorza>().stampe->close();
+  m.cmdsopra[10]->click();  // the popup of the reports saves the stage in front
+  m.stampe->close();
   EXPECT_EQ(conta(u"alimenti_spuntati WHERE pasto=5 AND NOT ok"_s), 1);
   chiudi_archivi();
   scarica<Formalimenti>();
@@ -224,10 +187,14 @@ TEST_F(ProvaAlimenti, SupplementsAreMarkedForTheLunchesAndOpenTheirWindow) {
   apri_nuovo();
   passi(0, 1);
   pasto(integratore);
-  inserisci_integratore(u"30"_s);
+  auto* finestra = caricata<Formintegrat>();  // it opens by itself where there is no supplement
+  ASSERT_NE(finestra, nullptr);
+  const std::array testi{u"Proteine d'uovo"_s, QString(), u"80"_s, u"2"_s, u"6"_s, u"30"_s};
+  for (const auto i : {0U, 2U, 3U, 4U, 5U}) finestra->Text1[i]->setText(testi[i]);
+  clic(finestra->Command1[0]);
   ASSERT_EQ(righe(), 1);
   tocca(u"Proteine d'uovo"_s, colonna_di::lv);
-  auto* finestra = caricata<Formintegrat>();
+  finestra = caricata<Formintegrat>();
   ASSERT_NE(finestra, nullptr);
   EXPECT_EQ(finestra->Text1[5]->text(), u"30"_s);
   EXPECT_EQ(conta(u"Integratore_dieta WHERE LV AND NOT SD"_s), 1);
@@ -238,73 +205,4 @@ TEST_F(ProvaAlimenti, SupplementsAreMarkedForTheLunchesAndOpenTheirWindow) {
   EXPECT_EQ(righe(), 0);
   EXPECT_EQ(f->contaFissiIntegratoreLV.text(), u"0"_s) << "another may take its place";
   EXPECT_EQ(caricata<Formintegrat>(), nullptr);
-}
-
-TEST_F(ProvaAlimenti, TheMarkNeedsNoFile) {
-  const auto misura = [] { return icona_spunta().availableSizes().value(0); };
-  EXPECT_NE(misura(), QSize(45, 45));
-  QFile::copy(QStringLiteral(CARTELLA_ARCHIVI "/spunta.gif"), percorso(u"spunta.gif"_s));
-  EXPECT_EQ(misura(), QSize(45, 45));
-  scrivi(percorso(u"spunta.gif"_s), "no picture");
-  EXPECT_NE(misura(), QSize(45, 45));
-}
-
-namespace {
-
-/// Foods served in the first week against the client's list: all of them allowed that day, the obligatory ones there,
-/// none more than twice a week at lunch; the supplement on weekdays alone.
-void controlla_settimana() {
-  std::map<std::pair<int, int>, int> ammessi, obbligati;  // by meal code and food: bits of the days
-  ammessi[{4, 23000}] = 31;
-  for (const Riga& r : dati_tmp().righe(u"SELECT * FROM alimenti_spuntati"_s)) {
-    const std::pair chiave(r[u"pasto"].toInt(), r[u"cod1"].toInt() * 1000 + r[u"cod2"].toInt());
-    if (r[u"ok"].toBool()) ammessi[chiave] = 127;
-    obbligati[chiave] = (r[u"LV"].toBool() ? 31 : 0) + (r[u"SD"].toBool() ? 96 : 0);
-  }
-  std::map<int, int> pranzi;
-  std::map<std::pair<int, int>, int> serviti;
-  for (int giorno = 0; giorno < giorni; ++giorno) {
-    for (int m = 0; m < pasti; ++m) {
-      const int codice = std::array{1, 3, 4, 5, 6}[static_cast<std::size_t>(m)];
-      ASSERT_GT(motore().menu(1, giorno, m, 0).cod1, 0) << "day " << giorno << " meal " << m;
-      for (int p = 0; p < posti; ++p) {
-        const voce_pasto& v = motore().menu(1, giorno, m, p);
-        if (v.cod1 == 0) continue;
-        const std::pair chiave(codice, v.cod1 * 1000 + v.cod2);
-        serviti[chiave] |= 1 << giorno;
-        EXPECT_TRUE((ammessi[chiave] | obbligati[chiave]) & (1 << giorno)) << v.descr.toStdString();
-        if (m == 2 && v.cod1 < 23 && obbligati[chiave] == 0) ++pranzi[chiave.second];
-      }
-    }
-  }
-  for (const auto& [cibo, volte] : pranzi) EXPECT_LE(volte, 2) << cibo;
-  for (const auto& [chiave, giorni_voluti] : obbligati) {
-    EXPECT_EQ(serviti[chiave] & giorni_voluti, giorni_voluti) << chiave.second;
-  }
-  EXPECT_NE((serviti[{4, 23000}]), 0);
-}
-
-}  // namespace
-
-TEST_F(ProvaAlimenti, AWeekElaboratedFromTheseChoicesKeepsToThem) {
-  for (const std::size_t modo : {0U, 1U}) {
-    SCOPED_TRACE(modo == 0 ? "automatic" : "by hand");
-    apri_nuovo();
-    passi(0, modo);
-    for (const auto quale : {colazione, spuntino, merenda, pranzo}) pasto(quale);
-    clic(casella(u"CheckPranzo_7"_s));  // no fish
-    tocca(u"Pane integrale"_s, colonna_di::lv);
-    tocca(u"Mela"_s, colonna_di::sd);
-    pasto(cena);
-    tocca(u"Spaghetti"_s, colonna_di::ok);
-    pasto(integratore);
-    if (modo == 0) inserisci_integratore(u"10"_s);
-    tocca(u"Proteine d'uovo"_s, modo == 0 ? colonna_di::lv : colonna_di::nome);
-    caricata<Formintegrat>()->close();
-    schermata<Mdiorza>().Command1[1]->click();
-    ASSERT_TRUE(caricata<Formelabora>());
-    scegli(schermata<Formelabora>().Combo1, 0);
-    clic(schermata<Formelabora>().test);
-    controlla_settimana();
-  }
 }

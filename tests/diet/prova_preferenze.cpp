@@ -32,22 +32,18 @@ Scheda piccola() {
           alimento(5, 1, u"21,"_s),    alimento(5, 21),          alimento(8, 21)};
 }
 
-QStringList segnati(const Scheda& scheda, Segno segno) {
+QString segnati(const Scheda& scheda, Segno segno) {
   QStringList nomi;
   for (const AlimentoScheda& r : scheda) {
     if (r.segnato(segno)) nomi << r.descrizione;
   }
-  return nomi;
+  return nomi.join(u' ');
 }
 
-QStringList liste(const Scheda& scheda, Segno segno) {
+QString liste(const Scheda& scheda, Segno segno) {
   QStringList tutte;
   for (const AlimentoScheda& r : scheda) tutte << r.lista(segno);
-  return tutte;
-}
-
-void segna_tutti(Scheda& scheda, Segno segno) {
-  for (AlimentoScheda& r : scheda) imposta_segno(r, segno);
+  return tutte.join(u' ');
 }
 
 class Preferenze : public Banco {};
@@ -76,15 +72,14 @@ TEST_F(Preferenze, AMealShowsItsGroupsAndNoFoodWithoutAPortion) {
 
 TEST_F(Preferenze, ABaseFoodTakesItsCompanionsAlongAndACompanionLeavesTheListsOfItsGroup) {
   Scheda s = piccola();
-  segna_tutti(s, Segno::ok);
+  for (AlimentoScheda& r : s) imposta_segno(r, Segno::ok);
   togli_segno(s, 2, Segno::ok);
-  EXPECT_EQ(liste(s, Segno::ok), (QStringList{u"22,"_s, u""_s, u""_s, u""_s, u"21,"_s, u""_s, u""_s}))
-      << "the rice has another 21";
+  EXPECT_EQ(liste(s, Segno::ok), u"22,    21,  "_s) << "the rice has another 21";
   EXPECT_EQ(s[0].lista(Segno::LV), u"21,22,"_s) << "the other marks keep their lists";
   togli_segno(s, 0, Segno::ok);
-  EXPECT_EQ(segnati(s, Segno::ok), (QStringList{u"4.2"_s, u"5.1"_s, u"5.21"_s, u"8.21"_s}));
+  EXPECT_EQ(segnati(s, Segno::ok), u"4.2 5.1 5.21 8.21"_s);
   togli_segno(s, 4, Segno::ok);
-  EXPECT_EQ(segnati(s, Segno::ok), (QStringList{u"4.2"_s, u"8.21"_s})) << "the meat is no sauce";
+  EXPECT_EQ(segnati(s, Segno::ok), u"4.2 8.21"_s) << "the meat is no sauce";
   imposta_segno(s[0], Segno::ok);
   imposta_segno(s[1], Segno::ok);
   EXPECT_EQ(s[0].lista(Segno::ok), u"21,22,"_s) << "a new mark takes the food's own companions again";
@@ -97,16 +92,13 @@ TEST_F(Preferenze, TheListOfTheChosenNamesCompanionsBeforeTheirFood) {
   imposta_segno(s[0], Segno::SD);
   imposta_segno(s[6], Segno::LV);
   s[0].lista(Segno::SD) = u"22,99,"_s;
-  QStringList righe;
-  for (const Scelto& c : alimenti_scelti(s)) righe << c.descrizione + u"-GRB"_s[1 + static_cast<int>(c.segno)];
-  EXPECT_EQ(righe, (QStringList{u"4.21G"_s, u"4.22G"_s, u"4.1G"_s, u"4.22B"_s, u"4.1B"_s, u"8.21R"_s}));
+  QString righe;
+  for (const Scelto& c : alimenti_scelti(s)) righe += c.descrizione + u"GRB"_s[static_cast<int>(c.segno)] + u' ';
+  EXPECT_EQ(righe, u"4.21G 4.22G 4.1G 4.22B 4.1B 8.21R "_s);
 }
 
 TEST_F(Preferenze, EachBoxMarksItsOwnFoods) {
   // How many foods a meal keeps with one box unticked, against a count of the store's own rows.
-  const auto conta = [](const QString& dove) {
-    return sa_dieta().righe(u"SELECT 1 FROM alimenti WHERE quantità > 0 AND "_s + dove).size();
-  };
   const std::tuple<int, bool, std::size_t, QString> casi[]{
       {scheda_di::colazione, false, 0, u"cod1=1 AND (cod4=1 OR cod3=0) AND cod4 NOT IN (3,4,5,6)"_s},
       {scheda_di::colazione, false, 1, u"cod1=1 AND cod3=1"_s},
@@ -123,10 +115,11 @@ TEST_F(Preferenze, EachBoxMarksItsOwnFoods) {
     const InsiemeCaselle& insieme = insiemi_caselle()[insieme_del_pasto(sel, veloce).value()];
     std::vector<bool> spuntate(insieme.caselle.size(), true);
     applica_caselle(s, insieme, spuntate);
-    EXPECT_EQ(segnati(s, Segno::ok).size(), std::ssize(s)) << "all boxes together reach every food";
+    const auto senza = [&s] { return std::ranges::count_if(s, [](const auto& r) { return !r.segnato(Segno::ok); }); };
+    EXPECT_EQ(senza(), 0) << "all boxes together reach every food";
     spuntate[casella] = false;
     applica_caselle(s, insieme, spuntate);
-    EXPECT_EQ(std::ssize(s) - segnati(s, Segno::ok).size(), static_cast<qsizetype>(conta(tolti)))
+    EXPECT_EQ(senza(), std::ssize(sa_dieta().righe(u"SELECT 1 FROM alimenti WHERE quantità > 0 AND "_s + tolti)))
         << sel << " " << casella;
   }
   EXPECT_FALSE(insieme_del_pasto(scheda_di::integratori, false));
@@ -148,7 +141,7 @@ TEST_F(Preferenze, AMealIsStoredWholeAndComesBackByPosition) {
   corta.erase(corta.begin() + 1);  // the store has lost a food since
   ASSERT_TRUE(richiama_righe(dati, 4, corta));
   EXPECT_EQ(corta[0].lista(Segno::ok), u"22,"_s);
-  EXPECT_EQ(segnati(corta, Segno::LV), QStringList{}) << "the seventh stored row has no row of the grid";
+  EXPECT_EQ(segnati(corta, Segno::LV), QString()) << "the seventh stored row has no row of the grid";
   dimentica_spunte(dati, 4);
   EXPECT_FALSE(richiama_righe(dati, 4, corta));
 }

@@ -3,6 +3,8 @@
 #include "diet/banco.h"
 #include "diet/selezione.h"
 
+#include <functional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -26,6 +28,16 @@ class Selezione : public Banco {
   }
   using Codici = std::vector<int>;
   using Tirate = std::vector<std::pair<int, int>>;
+
+  /// Draws with these numbers; the error that comes out, and the foods in the meal then.
+  std::pair<int, Codici> estrai(const Tirate& tirate, const std::function<void(Contesto&)>& via) {
+    m.svuota_pasto();
+    const Estrazioni e(tirate);
+    Contesto c = contesto(e.caso);
+    const int errore = numero_errore([&] { via(c); });
+    EXPECT_TRUE(e.attese.empty());
+    return {errore, pasto()};
+  }
 };
 
 }  // namespace
@@ -54,49 +66,41 @@ TEST_F(Selezione, AFoodComesAtItsStandardPortionInKilocalories) {
 TEST_F(Selezione, ALightMealTakesABaseFoodAndPerhapsItsCompanion) {
   base({{1, 1, 0, 1, 60, 3, 3, 5}, {1, 2, 0, 1, 40, 3, 1, 5}, {1, 3, 0, 3, 80, 3, 1, 15}, {1, 4, 0, 4, 30, 0, 0, 7}});
   cliente({{1, 1, 0, 1, 1}, {1, 2, 0, 1, 1}, {1, 3, 0, 3, 1, "ok", "4,9,"}, {1, 4, 0, 4, 1}, {1, 5, 0, 5, 1, "LV"}});
-  const std::tuple<const char*, Tirate, Codici, int> casi[]{
-      {"second food of sub-group 1", {{1, 6}, {2, 2}}, {102}, 0},
-      {"bread with the first companion", {{3, 6}, {1, 1}, {1, 2}}, {103, 104}, 0},
-      {"companions of a breakfast are no base food; 5 is not accepted", {{4, 6}, {5, 6}, {1, 6}, {1, 2}}, {101}, 0},
-      {"a companion that is not offered: the base food stays, the draw fails", {{3, 6}, {1, 1}, {2, 2}}, {103}, 3021},
+  const std::tuple<const char*, Tirate, int, Codici> casi[]{
+      {"second food of sub-group 1", {{1, 6}, {2, 2}}, 0, {102}},
+      {"bread with the first companion", {{3, 6}, {1, 1}, {1, 2}}, 0, {103, 104}},
+      {"companions of a breakfast are no base food; 5 is not accepted", {{4, 6}, {5, 6}, {1, 6}, {1, 2}}, 0, {101}},
+      {"a companion that is not offered: the base food stays, the draw fails", {{3, 6}, {1, 1}, {2, 2}}, 3021, {103}},
   };
-  for (const auto& [che, tirate, codici, errore] : casi) {
-    m.svuota_pasto();
-    Estrazioni e(tirate);
-    Contesto k = contesto(e.caso);
-    bool trovato = false;
-    EXPECT_EQ(numero_errore([&] { trovato = scegli_pasto_leggero(k, 0, 1); }), errore) << che;
-    EXPECT_EQ(trovato, errore == 0) << che;
-    EXPECT_EQ(pasto(), codici) << che;
-    EXPECT_TRUE(e.attese.empty()) << che;
+  for (const auto& [che, tirate, errore, codici] : casi) {
+    const auto esito = estrai(tirate, [](Contesto& c) { EXPECT_TRUE(scegli_pasto_leggero(c, 0, 1)); });
+    EXPECT_EQ(esito, std::pair(errore, codici)) << che;
   }
 }
 
 TEST_F(Selezione, AHitOnTheEleventhDrawOfASubgroupIsLost) {
   base({{3, 1, 0, 1, 60, 3, 3, 5}});
   cliente({{3, 1, 0, 1, 3}});
-  for (const int a_vuoto : {9, 10}) {
-    m.svuota_pasto();
-    Estrazioni e;
-    for (int i = 0; i < a_vuoto; ++i) e.prossima(2, 6);
-    e.prossima(1, 6);
-    if (a_vuoto == 9) e.prossima(1, 1);
-    Contesto c = contesto(e.caso);
-    EXPECT_EQ(scegli_pasto_leggero(c, 1, 3), a_vuoto == 9);
-    EXPECT_TRUE(e.attese.empty());
+  for (const bool in_tempo : {true, false}) {
+    Tirate tirate(in_tempo ? 9 : 10, {2, 6});
+    tirate.emplace_back(1, 6);
+    if (in_tempo) tirate.emplace_back(1, 1);
+    estrai(tirate, [&](Contesto& c) { EXPECT_EQ(scegli_pasto_leggero(c, 1, 3), in_tempo); });
   }
 }
 
 TEST_F(Selezione, CompanionLists) {
-  const std::tuple<QString, int, int, int> casi[]{
-      {u"7,12,3,"_s, 3, 2, 12}, {u"7,12,3,"_s, 3, 3, 3}, {u"7,12"_s, 1, 1, 7}};
-  for (const auto& [lista, conta, quale, valore] : casi) {
-    Estrazioni e({{quale, conta}});
+  const std::tuple<QString, Tirate, int, int> casi[]{// length, what the draw gives; no comma, no draw
+                                                     {u"7,12,3,"_s, {{2, 3}}, 3, 12},
+                                                     {u"7,12,3,"_s, {{3, 3}}, 3, 3},
+                                                     {u"7,12"_s, {{1, 1}}, 1, 7},
+                                                     {u""_s, {}, 0, 0},
+                                                     {u"12"_s, {}, 0, 0}};
+  for (const auto& [lista, tirate, conta, valore] : casi) {
+    const Estrazioni e(tirate);
     EXPECT_EQ(scegli_abbinamento(e.caso, lista), valore);
     EXPECT_EQ(conta_abbinamenti(lista), conta);
   }
-  Estrazioni e;
-  for (const QString& lista : {u""_s, u"12"_s}) EXPECT_EQ(scegli_abbinamento(e.caso, lista), 0) << "no comma, no draw";
 }
 
 TEST_F(Selezione, AGroupGivesABaseFoodAndOneCompanion) {
@@ -108,20 +112,16 @@ TEST_F(Selezione, AGroupGivesABaseFoodAndOneCompanion) {
   }
   base(cibi);
   // Each with the companions of the base food drawn, 4.2.
-  const std::tuple<const char*, const char*, Tirate, Codici, int> casi[]{
-      {"the second companion is drawn, but its rows are gone", "3,4,", {{2, 2}, {2, 2}, {1, 2}}, {402, 404}, 3420},
-      {"a list of one reaches the first companion alone", "4,", {{2, 2}, {1, 1}, {1, 2}}, {402, 403}, 3420},
-      {"no list: a third kind, counted without the second's rows", "", {{2, 2}, {2, 2}}, {402, 404}, 0},
+  const std::tuple<const char*, const char*, Tirate, int, Codici> casi[]{
+      {"the second companion is drawn, but its rows are gone", "3,4,", {{2, 2}, {2, 2}, {1, 2}}, 3420, {402, 404}},
+      {"a list of one reaches the first companion alone", "4,", {{2, 2}, {1, 1}, {1, 2}}, 3420, {402, 403}},
+      {"no list: a third kind, counted without the second's rows", "", {{2, 2}, {2, 2}}, 0, {402, 404}},
   };
-  for (const auto& [che, abbinamenti, tirate, codici, errore] : casi) {
-    m.svuota_pasto();
+  for (const auto& [che, abbinamenti, tirate, errore, codici] : casi) {
     offerte[1].abbinamenti = abbinamenti;
     cliente(offerte);
-    Estrazioni e(tirate);
-    Contesto k = contesto(e.caso);
-    EXPECT_EQ(numero_errore([&] { carica_gruppo(k, 4, 2, 0, false); }), errore) << che;
-    EXPECT_EQ(pasto(), codici) << che;
-    EXPECT_TRUE(e.attese.empty()) << che;
+    const auto esito = estrai(tirate, [](Contesto& c) { carica_gruppo(c, 4, 2, 0, false); });
+    EXPECT_EQ(esito, std::pair(errore, codici)) << che;
   }
 }
 
@@ -174,10 +174,8 @@ TEST_F(Selezione, AFoodServesTwoLunchesAndDinnersRepeatFreely) {
   EXPECT_EQ(libero(4, 0, false), 8) << "dinner reads a counter that dinners do not write";
   EXPECT_EQ(libero(2, 5, true), 0) << "the fast-food client's weekend lunch is held by the dinners' count";
   c.spuntati.scrivi_usi(dati);
-  const auto scritti = dati.righe(u"SELECT n_volte_pranzo p, n_volte_cena c FROM alimenti_spuntati ORDER BY rowid"_s);
-  EXPECT_EQ(scritti[0][u"p"].toInt() * 10 + scritti[0][u"c"].toInt(), 20);
-  EXPECT_EQ(scritti[1][u"p"].toInt() * 10 + scritti[1][u"c"].toInt(), 2);
-  EXPECT_EQ(scritti[2][u"p"].toInt() * 10 + scritti[2][u"c"].toInt(), 0);
+  EXPECT_EQ(righe_di(dati, u"SELECT n_volte_pranzo, n_volte_cena FROM alimenti_spuntati ORDER BY rowid"_s),
+            u"2 0|0 2|0 0"_s);
   c.spuntati.azzera_n_volte(dati);
   EXPECT_EQ(libero(2, 0, false), 8);
 }
