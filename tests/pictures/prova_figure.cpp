@@ -1,4 +1,5 @@
 // The pictures of the activities as metafiles beside the program, and the tool that makes them.
+#include "assessment/attivita_sportive.h"
 #include "attrezzi.h"
 
 #include <QProcess>
@@ -43,20 +44,13 @@ QString difetto(const Parole& f) {
   return u"no end"_s;
 }
 
-const QString attivita =
-    u"Judo ballo BalloRock Bicicletta BiciVeloce BodyBuilding Bowling Boxe Football CamminoLento CamminoMedio "
-    "CamminoVeloce Salita CamminarePeso CorsaVeloce CorsaMedia CorsaVeloce10 CorsaVeloce12 CorsaMoltoVeloce danza1 "
-    "Ippica Equitazione Danza ginnastica Golf Nuoto Nuoto2 Pallacanestro Pallanuoto Volley PattiniGhiaccio PingPong "
-    "Remare Sci1 Scisalto SollevamentoPesi Squash TennisDolce Tennis"_s;
-
 }  // namespace
 
 TEST(Figure, EveryActivityHasAWholeMetafile) {
   const QDir programma(QStringLiteral(CARTELLA_ARCHIVI));
-  const QStringList posate = programma.entryList({u"*.WMF"_s}), nomi = attivita.split(u' ');
-  EXPECT_EQ(nomi.size(), 39);
-  for (const QString& nome : nomi) {
-    const QString file = nome + u".WMF"_s;  // letter by letter, whatever the file system thinks of case
+  const QStringList posate = programma.entryList({u"*.WMF"_s});
+  for (const AttivitàSportiva& a : attività_sportive()) {
+    const QString file = a.figura.toString();  // letter by letter, whatever the file system thinks of case
     EXPECT_TRUE(posate.contains(file)) << file.toStdString();
     EXPECT_EQ(difetto({contenuto(programma.filePath(file))}), QString()) << file.toStdString();
   }
