@@ -50,62 +50,49 @@ class ProvaStampe : public Ambiente {
 TEST_F(ProvaStampe, AWeekIsReadDayByDayAtTwoZooms) {
   Formstampe& f = apri(u"21"_s, u"v"_s);
   EXPECT_EQ(f.windowTitle(), u"Dieta 1° settimana - Anteprima di stampa"_s);
-  EXPECT_EQ(f.List1->currentRow(), 0);
   EXPECT_EQ(f.Picture1->size(), QSize(518, 733));
   EXPECT_EQ(f.Labdi->text(), u"di 7"_s);
   EXPECT_TRUE(f.Slider1->isVisibleTo(&f) && f.Labpag->isVisibleTo(&f));
   const QImage lunedì = f.Picture1->pixmap(Qt::ReturnByValue).toImage();
   QTest::keyClick(f.Slider1, Qt::Key_Right);
-  EXPECT_EQ(f.Slider1->value(), 2);
   EXPECT_NE(f.Picture1->pixmap(Qt::ReturnByValue).toImage(), lunedì);
   f.VScroll1->setValue(10);
   EXPECT_EQ(f.Picture1->y(), (60 - 1000) / 15);
   QTest::keyClick(f.List1, Qt::Key_Down);
   EXPECT_EQ(f.Picture1->size(), QSize(259, 366));
-  EXPECT_EQ(f.VScroll1->maximum(), 0);
-  EXPECT_EQ(f.Slider1->value(), 2) << "the zoom keeps the page";
-  QTest::mouseClick(f.Cmdchar[2], Qt::LeftButton);
+  EXPECT_TRUE(f.VScroll1->maximum() == 0 && f.Slider1->value() == 2) << "the zoom keeps the page";
+  clic(f.Cmdchar[2]);
   EXPECT_EQ(apri(u"22"_s, u"v"_s).Slider1->value(), 1) << "the next report begins afresh";
 }
 
 TEST_F(ProvaStampe, TheSelectorFollowsTheReport) {
-  const struct {
-    QString codice, verso, di;
-    int massimo;
-  } casi[]{{u"3"_s, u"v"_s, u"di 4"_s, 4}, {u"4"_s, u"o"_s, u"di 3"_s, 3}, {u"7"_s, u"o"_s, u"di 9"_s, 9}};
-  for (const auto& c : casi) {
-    const Formstampe& f = apri(c.codice, c.verso);
-    EXPECT_EQ(f.Labdi->text(), c.di);
-    EXPECT_EQ(f.Slider1->maximum(), c.massimo);
+  for (const auto& [codice, massimo] : {std::pair{u"3"_s, 4}, {u"4"_s, 3}, {u"7"_s, 9}}) {
+    const Formstampe& f = apri(codice, u"v"_s);
+    EXPECT_EQ(f.Labdi->text(), u"di %1"_s.arg(massimo));
+    EXPECT_EQ(f.Slider1->maximum(), massimo);
   }
-  EXPECT_EQ(apri(u"1"_s, u"v"_s).Labpag->isVisibleTo(caricata<Formstampe>()), false);
+  EXPECT_FALSE(apri(u"1"_s, u"v"_s).Labpag->isVisibleTo(caricata<Formstampe>()));
   mostra<Formdiario>();
-  QTest::mouseClick(caricata<Formdiario>()->Command1, Qt::LeftButton);
+  clic(caricata<Formdiario>()->Command1);
   const Formstampe& f = *caricata<Formstampe>();
   EXPECT_EQ(f.windowTitle(), u"Elenco scelte del diario alimentare - Anteprima di stampa"_s);
-  EXPECT_EQ(f.Slider1->minimum(), 0);
-  EXPECT_EQ(f.Slider1->maximum(), 1);
-  EXPECT_FALSE(f.Slider1->isVisibleTo(&f)) << "one page";
+  EXPECT_TRUE(f.Slider1->maximum() == 1 && !f.Slider1->isVisibleTo(&f)) << "one page";
   EXPECT_EQ(apri(u"99"_s, u"v"_s).windowTitle(), u"Anteprima di stampa"_s) << "an unknown code draws nothing";
 }
 
-TEST_F(ProvaStampe, AWeekPrintsOnSevenUprightSheets) {
-  QTest::mouseClick(apri(u"21"_s, u"v"_s).Cmdchar[1], Qt::LeftButton);
+TEST_F(ProvaStampe, AWeekPrintsOnSevenUprightSheetsAndTheCaloriesOnThreeLandscapeOnes) {
+  clic(apri(u"21"_s, u"v"_s).Cmdchar[1]);
   const QStringList pagine = stampata();
   ASSERT_EQ(pagine.size(), 7);
   for (int g = 0; g < 7; ++g) {
-    EXPECT_TRUE(pagine[g].contains(u"%1 gg/"_s.arg(g + 1))) << g;
-    EXPECT_TRUE(pagine[g].contains(u"Alimento %1"_s.arg(5 * g + 4))) << g;
-    EXPECT_TRUE(pagine[g].contains(u"Grammi"_s) && pagine[g].contains(u"piccole quantità"_s)) << "right edge";
-    EXPECT_TRUE(pagine[g].contains(u"Calorie da glucidi:"_s)) << "foot";
+    for (const auto& testo : {u"%1 gg/"_s.arg(g + 1), u"Alimento %1"_s.arg(5 * g + 4), u"Grammi"_s,
+                              u"piccole quantità"_s, u"Calorie da glucidi:"_s}) {  // to the right edge and the foot
+      EXPECT_TRUE(pagine[g].contains(testo)) << g << testo.toStdString();
+    }
   }
-}
-
-TEST_F(ProvaStampe, TheCalorieListPrintsThreeLandscapeSheets) {
-  QTest::mouseClick(apri(u"7"_s, u"o"_s).Cmdchar[1], Qt::LeftButton);
-  const QStringList pagine = stampata();
-  ASSERT_EQ(pagine.size(), 3);
-  for (const QString& p : pagine) EXPECT_TRUE(p.contains(u"Gluc"_s));
+  clic(apri(u"7"_s, u"o"_s).Cmdchar[1]);
+  ASSERT_EQ(stampata().size(), 3);
+  EXPECT_TRUE(stampata()[2].contains(u"Gluc"_s));
 }
 
 /// The diary's pages follow on from one another, from sheet to sheet.
@@ -121,19 +108,15 @@ TEST_F(ProvaStampe, TheDiaryFlowsOnToTheNextSheet) {
   EXPECT_TRUE(pagine[1].trimmed().startsWith(u"Cena %"_s));
 }
 
-/// Left dialog, or a file that cannot be written: one message, and the preview stays.
-TEST_F(ProvaStampe, AFailedPrintIsSaidOnce) {
-  Formstampe& f = apri(u"21"_s, u"v"_s);
-  esterno().imposta_stampante = [](QPrinter&) { return false; };
-  {
-    Dialogo d({stampante_assente});
-    QTest::mouseClick(f.Cmdchar[1], Qt::LeftButton);
+TEST_F(ProvaStampe, AFailedPrintIsSaidOnceAndThePreviewStays) {
+  const Formstampe& f = apri(u"21"_s, u"v"_s);
+  for (const bool lasciata : {true, false}) {  // the dialog left, or a file that cannot be written
+    esterno().imposta_stampante = [this, lasciata](QPrinter& p) {
+      p.setOutputFileName(cartella.filePath(u"non/esiste/x.pdf"_s));
+      return !lasciata;
+    };
+    const Dialogo d({stampante_assente});
+    clic(f.Cmdchar[1]);
   }
-  esterno().imposta_stampante = [this](QPrinter& p) {
-    p.setOutputFileName(cartella.filePath(u"non/esiste/x.pdf"_s));
-    return true;
-  };
-  Dialogo d({stampante_assente});
-  QTest::mouseClick(f.Cmdchar[1], Qt::LeftButton);
   EXPECT_TRUE(caricata<Formstampe>());
 }
