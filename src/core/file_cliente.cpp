@@ -2,7 +2,10 @@
 
 #include "base/errori.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
 #include <QSet>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +50,21 @@ void leggi_per_intero(Archivio& cliente, QString tabella) {
 
 QString nome_cliente(const QString& cod, const QString& cognome) {
   return QString(cod + u'_' + cognome).replace(u'/', u'-');
+}
+
+void pretendi_apribile(const QString& file) {
+  constexpr unsigned troppi_secondi = 10;
+  const pid_t figlio = ::fork();
+  if (figlio == 0) {
+    ::alarm(troppi_secondi);
+    prosegui([&] { Archivio(file, accesso, Archivio::Modo::sola_lettura); });
+    ::_exit(0);
+  }
+  int esito = 0;
+  while (figlio > 0 && ::waitpid(figlio, &esito, 0) < 0 && errno == EINTR) continue;
+  if (figlio < 0 || !WIFEXITED(esito) || WEXITSTATUS(esito) != 0) {
+    throw Errore(3343, "Il file del cliente non si lascia aprire.");
+  }
 }
 
 void pretendi_sole_tabelle(Archivio& cliente) {

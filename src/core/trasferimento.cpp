@@ -39,6 +39,7 @@ QString cognome_da(const QVariant& v) {
 
 /// Who a file holds; nothing where its master data are empty. The file is proved whole before it is taken in.
 std::optional<Straniero> leggi(const QString& file) {
+  pretendi_apribile(file);
   Archivio cliente(file, accesso, Archivio::Modo::sola_lettura);
   pretendi_sole_tabelle(cliente);
   const auto righe = cliente.righe(u"SELECT cod, cognome FROM anagrafe LIMIT 1"_s);

@@ -84,12 +84,16 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
   Archivio(monca).esegui(u"DROP TABLE dieta"_s);
   const QString altra = QDir(fuori).filePath(u"altra.orzaline"_s);
   Archivio(altra, u";PWD=altra", Archivio::Modo::nuovo).esegui_copione(u"CREATE TABLE anagrafe (cod, cognome)"_s);
+  const QString assassino = straniero(u"assassino"_s, 8, u"ROSSI"_s);  // ends the engine that reads it
+  Archivio(assassino).esegui_copione(
+      u"PRAGMA writable_schema = ON; UPDATE sqlite_master SET sql = 'CREATE TABLE dieta AS SELECT 1' WHERE name = 'dieta'"_s);
   const QString buono_prima = straniero(u"prima"_s, 1, u"PRIMA"_s);
   const QStringList rifiutati{grezzo(u"vuoto"_s, {}),
                               grezzo(u"mozzo"_s, buono.chopped(1024)),
                               grezzo(u"guasto"_s, rovinato(buono, buono.size() - 500)),
                               altra,
                               monca,
+                              assassino,
                               percorso(u"fc.jed"_s),
                               straniero(u"senza"_s, {}, u"ROSSI"_s),
                               straniero(u"anonimo"_s, 6, {}),

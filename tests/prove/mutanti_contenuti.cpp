@@ -207,8 +207,8 @@ QStringList indice(Caso& c, const Bersaglio& t) {
 }
 
 /// The engine's own list of the schema, written by hand. "CREATE TABLE … AS SELECT" is left out: SQLite 3.15 ends
-/// there, by a null pointer, as soon as any statement makes it read the schema; nothing of ours can look at the text
-/// before.
+/// there, by a null pointer, as soon as any statement makes it read the schema. The import tries a file in a child
+/// process first and has a test of its own; a file put into the archive by hand is not tried.
 QStringList schema(Caso& c, const Bersaglio& t) {
   const QString radice = QString::number(c.sotto(60));
   const QString cosa = c.uno_di(
