@@ -4,6 +4,7 @@
 #include "assessment/formpond.h"
 #include "base/errori.h"
 #include "base/numeri.h"
+#include "core/aspetto.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/regole.h"
@@ -11,7 +12,6 @@
 
 #include <QBarSet>
 #include <QFile>
-#include <QIcon>
 #include <QValueAxis>
 #include <algorithm>
 #include <cmath>
@@ -120,7 +120,7 @@ QPixmap immagine_attività(int indice) {
   if (indice < 0 || indice >= std::ssize(elenco)) return {};
   const QString figura = elenco[static_cast<std::size_t>(indice)].figura.toString();
   const QString file = u":/attivita/%1.svg"_s.arg(figura.section(u'.', 0, 0));
-  return QFile::exists(file) ? QIcon(file).pixmap(misura_figura) : QPixmap();
+  return QFile::exists(file) ? icona_del_file(file).pixmap(misura_figura) : QPixmap();
 }
 
 // ---- the rhythm of the meals

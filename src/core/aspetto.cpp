@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QFile>
 #include <QFont>
+#include <QHash>
 #include <QIcon>
 #include <QStyle>
 #include <QStyleFactory>
@@ -30,7 +31,14 @@ void imposta_aspetto(QApplication& app) {
   if (foglio.open(QIODevice::ReadOnly)) app.setStyleSheet(QString::fromUtf8(foglio.readAll()));
 }
 
-QIcon icona(const QString& nome) { return QIcon(u":/pictures/"_s + nome + u".svg"_s); }
+QIcon icona(const QString& nome) { return icona_del_file(u":/pictures/"_s + nome + u".svg"_s); }
+
+QIcon icona_del_file(const QString& file) {
+  static QHash<QString, QIcon> icone;
+  QIcon& i = icone[file];
+  if (i.isNull()) i = QIcon(file);
+  return i;
+}
 
 Cornice cornice(const QString& titolo, QWidget* in) {
   auto* box = new QGroupBox(titolo, in);

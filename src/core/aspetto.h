@@ -23,6 +23,9 @@ void imposta_aspetto(QApplication& app);
 /// An icon of the program's own, by its file name without the ending.
 QIcon icona(const QString& nome);
 
+/// The icon of a file, one for all: each new one would leave its drawings in the picture cache beside its twins'.
+QIcon icona_del_file(const QString& file);
+
 /// Gives a control its name, which is how sections and tests find it, and its hint.
 template <class C>
 C* nominato(C* controllo, const QString& nome, const QString& suggerimento = {}) {
