@@ -2,6 +2,7 @@
 
 #include "core/mdiorza.h"
 #include "core/salva_carica.h"
+#include "core/sessione.h"
 #include "intake/formanag.h"
 #include "office/rubrica.h"
 
@@ -47,6 +48,7 @@ bool nome_in_rubrica() {
 }
 
 void aggiorna_rubrica() {
+  apri_dati_tmp(Scopo::salvare);  // an empty form, told in a box, must not go over the address book
   carica_luoghi();
   const Persona p = persona(schermata<Formanag>());
   Archivio rubrica(percorso(u"rubrica.jed"_s));

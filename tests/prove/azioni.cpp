@@ -220,6 +220,7 @@ bool in_italiano(const QString& testo) {
   ::alarm(60);
   ascolta_utente(l);
   a.prima(l);
+  ascolta_utente(l);  // a client that is opened there answers by itself
   if (contenuto(l.detti).size() > 0) ::_exit(senza_esito);
   if (metti) metti();
   a.fa(l);
