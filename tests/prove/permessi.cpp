@@ -142,19 +142,20 @@ void prova_ostacoli(const prove::Luogo& l, const prove::Origine& origine, int qu
 void prova_nomi(prove::Luogo l, const prove::Origine& origine, int quanti) {
   const std::vector<QString> scelti = scegli(cognomi(), quanti);
   const auto intorno = [&] {
-    return QDir(l.base).entryList(QDir::Dirs | QDir::NoDotAndDotDot) + QDir(l.studio).entryList(QDir::NoFilter);
+    QStringList nomi =
+        QDir(l.base).entryList(QDir::Dirs | QDir::NoDotAndDotDot) + QDir(l.studio).entryList(QDir::NoFilter);
+    nomi.removeIf([](const QString& n) { return n.startsWith(u"dati.tmp"); });  // the session's, not a client's
+    return nomi;
   };
   int rifiutati = 0;
   for (const QString& cognome : scelti) {
     origine.rimetti();
-    const QStringList prima = intorno();
+    const qsizetype prima = intorno().size();
     l.cognome = cognome;
     const prove::Resoconto r = prove::svolgi(l, prove::cliente_nuovo, cognome);
     if (r.riuscita != r.detti.isEmpty()) prove::fallito(cognome + u": "_s + r.detti.join(u" / "_s));
-    QStringList dopo = intorno();
-    dopo.removeOne(u"dati.tmp"_s);
-    const qsizetype nuovi = dopo.size() - prima.size() + prima.count(u"dati.tmp"_s);
-    if (nuovi != (r.riuscita ? 1 : 0)) prove::fallito(cognome + u": the folders are not as they should be"_s);
+    if (intorno().size() - prima != (r.riuscita ? 1 : 0))
+      prove::fallito(cognome + u": the folders are not as they should be"_s);
     if (!prove::svolgi(l, prove::azioni()[1], cognome).riuscita) prove::fallito(cognome + u": the archive is lost"_s);
     rifiutati += !r.riuscita;
   }

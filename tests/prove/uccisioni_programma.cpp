@@ -149,6 +149,9 @@ struct Risposta {
 constexpr Risposta risposte[]{
     {u"Salvataggio generale degli archivi", true, 0},
     {u"Il paziente è già presente in archivio.", false, 0},  // overwritten
+    {u"Ho difficoltà ad elaborare", true, 0},
+    {u"Errori KCAL", true, 0},
+    {u"Attenzione: la difficoltà di elaborare", true, 0},
     {u"Dieta salvata", true, 0},
     {u"La dieta precedentemente salvata è stata caricata", true, 0},
     {u"Attenzione: il codice del cliente che si è deciso di importare esiste già.", true, 0},
