@@ -185,7 +185,7 @@ void bersagli(int semi) {
   const auto n = static_cast<int>(tutti.ms.size());
   banco::budget("Weeks whole, 200 targets", n, tutti.percento(), {98, "%", true});
   banco::budget("Weeks whole, band of rations with the fewest", n,
-                 std::ranges::min(fasce, {}, &Riepilogo::percento).percento(), {90, "%", true});
+                std::ranges::min(fasce, {}, &Riepilogo::percento).percento(), {90, "%", true});
 }
 
 }  // namespace

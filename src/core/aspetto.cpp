@@ -121,6 +121,7 @@ namespace {
 /// takes nearly half of the time in which a screen of twenty lists opens.
 class ListaStretta : public QComboBox {
  public:
+  using QComboBox::QComboBox;
   [[nodiscard]] QSize sizeHint() const override { return {larghezza, QComboBox::sizeHint().height()}; }
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -130,8 +131,8 @@ class ListaStretta : public QComboBox {
 
 }  // namespace
 
-QComboBox* lista_fissa(QStringView voci) {
-  auto* l = new ListaStretta;
+QComboBox* lista_fissa(QStringView voci, QWidget* in) {
+  auto* l = new ListaStretta(in);
   if (!voci.isEmpty()) l->addItems(voci.toString().split(u'|'));
   l->setCurrentIndex(-1);
   l->setMaxVisibleItems(14);

@@ -71,7 +71,10 @@ QPushButton* pulsante(const QString& nome, const QString& scritta, const QString
 QPushButton* pulsantino(const QString& nome, const QString& segno, const QString& suggerimento);
 
 /// A list of fixed lines, parted by "|", with none chosen; its width is its place's, not its longest line's.
-QComboBox* lista_fissa(QStringView voci);
+///
+/// Lists are made in the frame where they will stand: one that finds its place later makes its drop-down at once, and
+/// the style sheet never gives back what it notes of a drop-down that is not shown.
+QComboBox* lista_fissa(QStringView voci, QWidget* in);
 
 /// Writes a text that may be longer than its field, and shows it from its beginning.
 void scrivi_da_capo(QLineEdit& campo, const QString& testo);

@@ -6,8 +6,8 @@
 /// Name of a client's folder and, but for its ending, of the file: number, "_", surname. It never leads elsewhere.
 [[nodiscard]] QString nome_cliente(const QString& cod, const QString& cognome);
 
-/// Opens a file that came from elsewhere in a child process first. Throws Errore 3343 where the child does not come back:
-/// there are texts of a schema that end the engine, and with it whoever opens them.
+/// Opens a file that came from elsewhere in a child process first. Throws Errore 3343 where the child does not come
+/// back: there are texts of a schema that end the engine, and with it whoever opens them.
 void pretendi_apribile(const QString& file);
 
 /// Throws Errore 3343 where the store holds more than tables and their indices: whatever the engine would run by itself
