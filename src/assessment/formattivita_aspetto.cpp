@@ -36,7 +36,7 @@ constexpr QColor linee{0xdd, 0xe4, 0xe0}, fondo{0xf7, 0xf9, 0xf8};  // of the gr
 constexpr int larghezza_calorie = 52, larghezza_razione = 68, larghezza_percento = 34, larghezza_freccia = 18;
 
 QComboBox* lista(const QString& nome, const QStringList& voci, const QString& suggerimento) {
-  auto* l = nominato(new QComboBox, nome, suggerimento);
+  auto* l = nominato(new Lista, nome, suggerimento);
   l->addItems(voci);
   l->setCurrentIndex(-1);
   l->setMaxVisibleItems(14);

@@ -257,7 +257,7 @@ QWidget* Formpond::disegna_plico(QWidget* in) {
   calcolati(Text7, u"Text7"_s);
   calcolati(Text6, u"Text6"_s);
   due_colonne(*c.griglia, 8, righe, Text7, Text6);
-  Combo1 = nominato(new QComboBox(Frame_plico), u"Combo1"_s, u"Stress che accresce il fabbisogno"_s);
+  Combo1 = nominato(new Lista, u"Combo1"_s, u"Stress che accresce il fabbisogno"_s);
   Combo1->addItems({u"Nessuno"_s, u"Leggero"_s, u"Medio"_s, u"Alto"_s});
   Combo1->setCurrentIndex(-1);
   c.griglia->addWidget(etichetta_di(u"Fattore stress"_s, Combo1), 14, 0);

@@ -102,7 +102,7 @@ QWidget* Formfunzio::disegna_rischio() {
 void Formfunzio::disegna_situazioni(QGridLayout& griglia) {
   const std::array situazioni{u"Presenza di Sovrappeso"_s, u"Presenza di Ipertensione"_s, u"Fumatore"_s};
   for (std::size_t i = 0; i < situazioni.size(); ++i) {
-    ComboRischio[i] = nominato(new QComboBox(griglia.parentWidget()), nome_indice(u"ComboRischio", i), situazioni[i]);
+    ComboRischio[i] = nominato(new Lista, nome_indice(u"ComboRischio", i), situazioni[i]);
     ComboRischio[i]->addItems({u"Si"_s, u"No"_s});
     ComboRischio[i]->setCurrentIndex(-1);
     ComboRischio[i]->setFixedWidth(larghezza_scelta);

@@ -119,9 +119,8 @@ namespace {
 
 /// As narrow as its place, whatever its lines say. Qt's own policy for that makes each drop-down list at once, which
 /// takes nearly half of the time in which a screen of twenty lists opens.
-class ListaStretta : public QComboBox {
+class ListaStretta : public Lista {
  public:
-  using QComboBox::QComboBox;
   [[nodiscard]] QSize sizeHint() const override { return {larghezza, QComboBox::sizeHint().height()}; }
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -131,8 +130,13 @@ class ListaStretta : public QComboBox {
 
 }  // namespace
 
-QComboBox* lista_fissa(QStringView voci, QWidget* in) {
-  auto* l = new ListaStretta(in);
+void Lista::changeEvent(QEvent* evento) {
+  if (evento->type() == QEvent::StyleChange && !isVisible()) return QWidget::changeEvent(evento);
+  QComboBox::changeEvent(evento);
+}
+
+QComboBox* lista_fissa(QStringView voci) {
+  auto* l = new ListaStretta;
   if (!voci.isEmpty()) l->addItems(voci.toString().split(u'|'));
   l->setCurrentIndex(-1);
   l->setMaxVisibleItems(14);

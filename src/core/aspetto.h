@@ -1,6 +1,7 @@
 // The layout helper all screens share, so that rows, frames and bars come out alike.
 #pragma once
 
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -70,11 +71,18 @@ QPushButton* pulsante(const QString& nome, const QString& scritta, const QString
 /// A square button of one sign beside a field or list; what it does stands in its hint.
 QPushButton* pulsantino(const QString& nome, const QString& segno, const QString& suggerimento);
 
+/// A list to choose from. Qt's own makes its drop-down whenever its place changes, and the style sheet never gives back
+/// what it notes of a drop-down that is not shown: this one waits until it is opened.
+class Lista : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void changeEvent(QEvent* evento) override;
+};
+
 /// A list of fixed lines, parted by "|", with none chosen; its width is its place's, not its longest line's.
-///
-/// Lists are made in the frame where they will stand: one that finds its place later makes its drop-down at once, and
-/// the style sheet never gives back what it notes of a drop-down that is not shown.
-QComboBox* lista_fissa(QStringView voci, QWidget* in);
+QComboBox* lista_fissa(QStringView voci);
 
 /// Writes a text that may be longer than its field, and shows it from its beginning.
 void scrivi_da_capo(QLineEdit& campo, const QString& testo);

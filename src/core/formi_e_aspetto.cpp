@@ -45,7 +45,7 @@ QWidget* Formi_e::disegna_esporta() {
   MSFlexGrid1 = griglia(u"MSFlexGrid1"_s, colonne);
   MSFlexGrid1->setToolTip(u"Clienti in schedario"_s);
   MSFlexGrid1->setFixedWidth(larghezza_di(colonne));
-  Drive1 = nominato(new QComboBox, u"Drive1"_s, u"Unità in cui copiare"_s);
+  Drive1 = nominato(new Lista, u"Drive1"_s, u"Unità in cui copiare"_s);
   Dir1 = nominato(new Cartelle, u"Dir1"_s, u"Cartella in cui copiare: doppio clic per aprirla"_s);
   Command2 = pulsante(u"Command2"_s, u"Esporta"_s, u"Esporta i dati del cliente selezionato in altra posizione"_s);
   int a_sinistra = 0, a_destra = 0;
@@ -62,7 +62,7 @@ QWidget* Formi_e::disegna_esporta() {
 QWidget* Formi_e::disegna_importa() {
   const Cornice c = cornice(u"Importa da ..."_s);
   c.box->setFixedWidth(larghezza_importa);
-  Drive2 = nominato(new QComboBox, u"Drive2"_s, u"Unità da cui copiare"_s);
+  Drive2 = nominato(new Lista, u"Drive2"_s, u"Unità da cui copiare"_s);
   Dir2 = nominato(new Cartelle, u"Dir2"_s, u"Cartella da cui copiare: doppio clic per aprirla"_s);
   File1 = nominato(new QListWidget, u"File1"_s, u"File di clienti nella cartella; se ne possono scegliere diversi"_s);
   for (QListWidget* l : {static_cast<QListWidget*>(Dir1), static_cast<QListWidget*>(Dir2), File1}) distanzia_voci(l);

@@ -102,7 +102,7 @@ void Formdiario::disegna_griglia() {
   MSFlex1->setFixedWidth(larghezza_di(colonne));
   MSFlex1->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   for (int i = 0; i < codici; ++i) MSFlex1->hideColumn(i);
-  Combodose = nominato(new QComboBox(MSFlex1->viewport()), u"Combodose"_s, u"Dose in grammi"_s);
+  Combodose = nominato(new Lista(MSFlex1->viewport()), u"Combodose"_s, u"Dose in grammi"_s);
   Combodose->setAccessibleName(u"Dose in grammi"_s);
   for (const int dose : {0, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100, 120, 140, 160, 180, 200, 250, 300, 330}) {
     Combodose->addItem(QString::number(dose));

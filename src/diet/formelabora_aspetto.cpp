@@ -57,7 +57,7 @@ QWidget* Formelabora::disegna_scelte() {
   int riga_griglia = 0;
   const auto sotto = [&](QWidget* w) { c.griglia->addWidget(w, riga_griglia++, 0); };
   sotto(guida(u"Selezionare nell'ordine:"_s));
-  Combo1 = nominato(new QComboBox, u"Combo1"_s, u"Settimana della dieta"_s);
+  Combo1 = nominato(new Lista, u"Combo1"_s, u"Settimana della dieta"_s);
   for (int i = 1; i <= settimane; ++i) Combo1->addItem(u"%1° settimana"_s.arg(i));
   Combo1->setCurrentIndex(-1);
   sotto(etichetta_di(u"settimana:"_s, Combo1));

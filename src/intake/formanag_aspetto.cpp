@@ -93,7 +93,7 @@ void disponi(Formanag& f, QGridLayout& griglia, std::span<const Posto> posti) {
     if (const auto* campo = std::get_if<QLineEdit * Formanag::*>(&p.membro)) {
       controllo = f.*(*campo) = new QLineEdit;
     } else {
-      controllo = f.*std::get<QComboBox * Formanag::*>(p.membro) = lista_fissa(p.voci, griglia.parentWidget());
+      controllo = f.*std::get<QComboBox * Formanag::*>(p.membro) = lista_fissa(p.voci);
     }
     nominato(controllo, p.nome.toString(), p.suggerimento.toString());
     griglia.addWidget(etichetta_di(p.etichetta.toString(), controllo), p.riga, p.colonna);

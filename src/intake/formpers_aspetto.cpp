@@ -82,7 +82,7 @@ constexpr int righe_sopra = 8, righe_psichico = 5;                  // the two s
 /// A list of fixed lines in a grid, with its label one column left of it.
 QComboBox* lista(QGridLayout& griglia, int riga, int colonna, QStringView nome, std::size_t i, const Voce& v,
                  int campata = 1) {
-  QComboBox* l = nominato(lista_fissa(v.voci, griglia.parentWidget()), nome_indice(nome, i));
+  QComboBox* l = nominato(lista_fissa(v.voci), nome_indice(nome, i));
   griglia.addWidget(etichetta_di(v.etichetta.toString(), l), riga, colonna - 1);
   griglia.addWidget(l, riga, colonna, 1, campata);
   return l;

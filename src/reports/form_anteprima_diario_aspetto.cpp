@@ -24,12 +24,12 @@ constexpr Colonna colonne[]{
 };
 
 using Foglio = Form_anteprima_diario;
-struct Lista {
+struct ListaPasto {
   QStringView titolo, nomi, dosi;
   Foglio::Caselle Foglio::*caselle_nomi;
   Foglio::Caselle Foglio::*caselle_dosi;
 };
-constexpr Lista liste[]{
+constexpr ListaPasto liste[]{
     {u"Colazione", u"TxtCOLAZIONE", u"TxtDOSEC", &Foglio::TxtCOLAZIONE, &Foglio::TxtDOSEC},
     {u"Merenda", u"TxtMERENDA", u"TxtDOSEM", &Foglio::TxtMERENDA, &Foglio::TxtDOSEM},
     {u"Pranzo", u"TxtPRANZO", u"TxtDOSEP", &Foglio::TxtPRANZO, &Foglio::TxtDOSEP},
@@ -85,7 +85,7 @@ QHBoxLayout* Form_anteprima_diario::disegna_livelli() {
 
 QHBoxLayout* Form_anteprima_diario::disegna_pasti() {
   auto* fila = new QHBoxLayout;
-  for (const Lista& l : liste) {
+  for (const ListaPasto& l : liste) {
     const Cornice box = cornice(l.titolo.toString());
     box.griglia->setHorizontalSpacing(2);
     box.griglia->setVerticalSpacing(1);
