@@ -161,7 +161,7 @@ Archivio::Archivio(const QString& file, QStringView connessione, Modo modo) {
     d_->base.exec("PRAGMA key = \"x'" + chiave(connessione) + "'\"");
     d_->base.exec("PRAGMA cipher_compatibility = 3");
     // The working copy dies with its session: a killed process must leave it whole, a power cut need not.
-    if (file.endsWith(u".tmp")) d_->base.exec("PRAGMA synchronous = OFF; PRAGMA journal_mode = TRUNCATE");
+    if (file.endsWith(u".tmp")) d_->base.exec("PRAGMA synchronous = OFF");
     d_->base.execAndGet("SELECT count(*) FROM sqlite_master");
   } catch (const SQLite::Exception& e) {
     errore_di(e, file);
