@@ -135,7 +135,8 @@ void fissa_cartella(const QString& cartella) {
 
 bool sparito(const QString& file) {
   struct stat s {};
-  return ::stat(QFile::encodeName(file).constData(), &s) != 0 && (errno == ENOENT || errno == ENOTDIR);
+  return ::stat(QFile::encodeName(file).constData(), &s) != 0 &&
+         (errno == ENOENT || errno == ENOTDIR || errno == ENAMETOOLONG);
 }
 
 void elimina_archivio(const QString& file) {
