@@ -15,7 +15,7 @@ prove=(
   'release scala               5000'             # 2 min
   'release permessi            1000 100'         # 1 min
 )
-con_due_processi='asan mutanti 100000 1000 200'  # 20 min
+con_due_processi='asan mutanti 100000 1000 200'  # 45 min
 
 costruisci() {
   cmake --preset "$1" > /dev/null
@@ -26,7 +26,7 @@ costruisci() {
 una() {
   local preset=$1 nome=$2 dice=build/prove/$2.txt
   printf '== %s (%s)\n' "$nome" "$preset"
-  if ! ASAN_OPTIONS=detect_leaks=0 "build/$preset/tests/prove/prova_$nome" "${@:3}" > "$dice" 2>&1; then
+  if ! ASAN_OPTIONS=detect_leaks=0:quarantine_size_mb=4 "build/$preset/tests/prove/prova_$nome" "${@:3}" > "$dice" 2>&1; then
     printf '== %s FAILED: see %s\n' "$nome" "$dice"
     tail -5 "$dice"
     return 255  # no other is begun
