@@ -102,7 +102,7 @@ void richiama(int riga) {
 void elabora(int volta) {
   Mdiorza& m = schermata<Mdiorza>();
   if (volta % elaborazioni_a_cliente == 0) {
-    richiama(volta / elaborazioni_a_cliente % std::ssize(campioni));
+    richiama(static_cast<int>(volta / elaborazioni_a_cliente % std::ssize(campioni)));
     m.cmdsopra[5]->click();
   }
   Formelabora& f = *caricata<Formelabora>();
