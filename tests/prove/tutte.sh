@@ -8,7 +8,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 prove=(
   'release uccisioni           1000 2000'        # 8 min
   'release uccisioni_programma 300'              # 6 min
-  'release clienti             5000'             # 8 min
+  'release clienti             5000'             # 20 min
   'release lungo_uso           10000 80 56'      # 8 min
   'release chiamate            1500'             # 3 min
   'release disco_pieno         17'               # 2 min
