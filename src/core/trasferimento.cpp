@@ -74,6 +74,8 @@ void porta_dentro(const QString& origine, const QString& nome, std::int16_t cod)
     sostituisci_file(origine, file);
     scrivi_cod_importato(file, cod);
     rinomina(aparte.path(), percorso(nome));
+    aparte.setPath(percorso(nome));  // what the engine cannot open again there goes, too
+    Archivio(aparte.filePath(nome + u".orzaline"_s), accesso, Archivio::Modo::sola_lettura);
   } catch (const Errore&) {
     aparte.removeRecursively();
     throw;

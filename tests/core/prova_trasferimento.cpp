@@ -107,6 +107,13 @@ TEST_F(ProvaTrasferimento, AFileThatIsNoWholeClientLeavesTheArchiveAsItWas) {
   }
 }
 
+TEST_F(ProvaTrasferimento, AClientWhosePathTheEngineCannotOpenIsNotTakenIn) {
+  const QString lungo = straniero(u"lungo"_s, 9, QString(238, u'L'));
+  const QStringList prima = cartelle();
+  static_cast<void>(importa({lungo}, {importazione_fallita}));
+  EXPECT_EQ(cartelle(), prima);
+}
+
 TEST_F(ProvaTrasferimento, AFileWithoutAClientEndsTheImportAfterTheEarlierOnes) {
   const QString vuoto = straniero(u"b"_s, 2, u"B"_s);
   Archivio(vuoto).esegui(u"DELETE FROM anagrafe"_s);
