@@ -1,0 +1,14 @@
+UPDATE alimenti_spuntati SET "cod1" = char(8238) || 'ROSSI';
+UPDATE alimenti_spuntati SET "cod2" = CAST(x'fffec080' AS TEXT);
+UPDATE alimenti_spuntati SET "cod3" = 2147483648;
+UPDATE alimenti_spuntati SET "cod4" = replace(hex(zeroblob(3000)), '00', '7+');
+UPDATE alimenti_spuntati SET "pasto" = replace(hex(zeroblob(500000)), '00', 'A ') WHERE rowid = (SELECT min(rowid) FROM alimenti_spuntati);
+UPDATE alimenti_spuntati SET "ok" = '<table>' || hex(zeroblob(5000));
+UPDATE alimenti_spuntati SET "LV" = ';';
+UPDATE alimenti_spuntati SET "SD" = '01/01/2003';
+UPDATE alimenti_spuntati SET "abb_OK" = -9e999;
+UPDATE alimenti_spuntati SET "abb_LV" = '<table>' || hex(zeroblob(5000));
+UPDATE alimenti_spuntati SET "abb_SD" = '<table>' || hex(zeroblob(5000));
+UPDATE alimenti_spuntati SET "n_volte_pranzo" = zeroblob(100000) WHERE rowid = (SELECT min(rowid) FROM alimenti_spuntati);
+UPDATE alimenti_spuntati SET "n_volte_cena" = 'nan';
+UPDATE anagrafe SET cognome = 'A\B';
