@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# All proofs with their full counts, two at a time, and the figures of speed; `./check --prove` calls this. Writes the
-# table of results to build/prove/risultati.md, what each proof said beside it, and fails where one did.
+# All proofs with their full counts and the figures of speed; `./check --prove` calls this. The longest comes first, the
+# others two at a time. Writes the table of results to build/prove/risultati.md, what each proof said beside it, and
+# fails where one did.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
@@ -39,9 +40,9 @@ mkdir -p build/prove
 mapfile -t programmi < <(printf '%s\n' "${prove[@]}" | awk '{ print "prova_" $2 }')
 costruisci release "${programmi[@]}"
 costruisci asan prova_mutanti
-printf '%s\n' "${prove[@]}" | xargs -P 2 -L 1 bash -c 'una "$@"' una
 # shellcheck disable=SC2086
 una $con_due_processi
+printf '%s\n' "${prove[@]}" | xargs -P 2 -L 1 bash -c 'una "$@"' una
 ./run bench 200 3 > build/prove/banchi.txt
 
 {
