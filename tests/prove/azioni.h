@@ -54,8 +54,9 @@ struct Resoconto {
 Resoconto svolgi(const Luogo& l, const Azione& a, const QString& che, const std::function<void()>& metti = {},
                  const std::function<void()>& togli = {});
 
-/// Does what follows on an obstacle that is gone: the client's file is whole in the old state or the new one, and the
-/// new one where that was promised; the same action comes off without a word; every store is sound.
+/// Judges what stands there once the obstacle is gone: the client's file in the old state or the new one, export,
+/// print, import and the address book's person whole or not at all, every store sound. Where something was told, the
+/// same action then comes off without a word, and all is judged again.
 void giudica(const Luogo& l, const Azione& a, const Resoconto& r, const QString& che);
 
 /// The stores, client 1 in state 1, a login, a client's file to import and a former export: what every action needs.

@@ -80,22 +80,29 @@ std::vector<Guasto> tutti(const prove::Luogo& l, const prove::Origine& origine) 
   return guasti_possibili;
 }
 
+struct Conto {
+  int possibili, riusciti, detti;
+};
+
 void guasta(const prove::Luogo& l, std::size_t quanti) {
   prove::prepara_tutto(l);
   const prove::Origine origine(l.base);
-  std::vector<Guasto> scelti, possibili = tutti(l, origine);
+  std::vector<Guasto> scelti;
+  const std::vector<Guasto> possibili = tutti(l, origine);
   std::ranges::sample(possibili, std::back_inserter(scelti), static_cast<std::ptrdiff_t>(quanti), std::mt19937(1));
-  std::map<const prove::Azione*, std::array<int, 2>> conti;
+  std::map<const prove::Azione*, Conto> conti;
+  for (const Guasto& g : possibili) ++conti[g.azione].possibili;
   for (const Guasto& g : scelti) {
     origine.rimetti();
     const prove::Resoconto r = con_guasto(l, g);
     if (guasti::conti().colpite == 0) prove::fallito(g.detto() + u": it did not strike"_s);
     prove::giudica(l, *g.azione, r, g.detto());
-    ++conti[g.azione][r.detti.isEmpty() ? 0 : 1];
+    ++(r.detti.isEmpty() ? conti[g.azione].riusciti : conti[g.azione].detti);
   }
   for (const auto& [azione, n] : conti) {
-    prove::esito(u"Calls failing: "_s + QLatin1StringView(azione->nome), n[0] + n[1],
-                 u"0 lost, 0 silent; %1 told, %2 came off all the same"_s.arg(n[1]).arg(n[0]));
+    prove::esito(
+        u"Calls failing: "_s + QLatin1StringView(azione->nome), n.riusciti + n.detti,
+        u"of %1; 0 lost, 0 silent; %2 told, %3 came off all the same"_s.arg(n.possibili).arg(n.detti).arg(n.riusciti));
   }
 }
 

@@ -75,8 +75,10 @@ class Intralcio {
   void togli() const {
     if (permessi_ != via) {
       ::chmod(file_.c_str(), std::filesystem::is_directory(file_) ? 0755 : 0644);
-    } else if (!std::filesystem::exists(file_)) {  // the program may have made a new one
+    } else if (!std::filesystem::exists(file_)) {
       std::filesystem::rename(file_ + ".via", file_);
+    } else {  // the program has made a new one
+      std::filesystem::remove_all(file_ + ".via");
     }
   }
 
