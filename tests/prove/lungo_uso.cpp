@@ -13,6 +13,7 @@
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
 #include "core/registro.h"
+#include "core/salvataggio.h"
 #include "core/sessione.h"
 #include "core/stadi.h"
 #include "diet/formelabora.h"
@@ -140,6 +141,27 @@ void guarda_anteprima(const QString& codice, const QString& verso) {
   if (caricata<Formstampe>()) prove::fallito(u"the preview does not close"_s);
 }
 
+/// A week that was elaborated, saved, and a diary: no report is without its pages.
+void riempi_cliente() {
+  parla_con([](const Riquadro& r) { return r.titolo != u"Attenzione"; });  // over the client that the archive knows
+  Mdiorza& m = schermata<Mdiorza>();
+  m.cmdsopra[5]->click();
+  Formelabora& f = *caricata<Formelabora>();
+  f.Combo1->setCurrentIndex(0);
+  f.test->click();
+  f.Command5[0]->click();
+  dati_tmp().esegui_copione(
+      u"INSERT INTO scelte_diario (pasto, cod1, cod2, dose)"
+      "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 23)"
+      "SELECT i / 5, 1, 1 + i % 3, 100 FROM n"_s);
+  salvataggio_generale();
+  richiama(0);
+  parla_con([](const Riquadro& r) {
+    prove::fallito(u"a preview says: "_s + r.testo);
+    return false;
+  });
+}
+
 void guarda_anteprime(int) {
   for (const QStringView codice : {u"1", u"21", u"22", u"23", u"24", u"3", u"8"})
     guarda_anteprima(codice.toString(), u"v"_s);
@@ -158,6 +180,7 @@ void lungo_uso(int elaborazioni, int giri, int viste) {
   lavora(u"Elaborations in one process"_s, elaborazioni, 1, elabora);
   richiama(0);
   lavora(u"Stage changes in one process"_s, giri, cambi_di_stadio, cambia_stadi);
+  riempi_cliente();
   lavora(u"Previews in one process"_s, viste, anteprime, guarda_anteprime);
   abbandona_schermate();
   chiudi_archivi();
