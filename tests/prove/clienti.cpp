@@ -306,6 +306,9 @@ QString elenco(const std::map<QString, int>& conti) {
 }
 
 void Prova::esiti(int quanti) const {
+  constexpr int pasti_di_settimana = 35;
+  if (2 * elaborate_ < quanti || 4 * pasti_ < 3 * pasti_di_settimana * elaborate_)
+    prove::fallito(u"only %1 weeks with %2 meals came of it"_s.arg(elaborate_).arg(pasti_));
   prove::esito(u"Random clients from the master data to the week"_s, quanti,
                u"no crash, slowest %1 s of processor; refused: %2"_s.arg(peggiore_, 0, 'f', 2).arg(elenco(rifiuti_)));
   prove::esito(u"Weeks elaborated for them in one press"_s, elaborate_,
