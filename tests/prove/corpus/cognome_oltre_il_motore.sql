@@ -1,0 +1,1 @@
+UPDATE anagrafe SET cognome = hex(zeroblob(118));
