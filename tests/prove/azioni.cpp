@@ -329,8 +329,7 @@ void prepara_tutto(const Luogo& l) {
   prepara(l.studio);
   ::qputenv("QT_LOGGING_RULES", "*.warning=false");  // the offscreen platform speaks up for every window
   const QDir origine(QStringLiteral(CARTELLA_ARCHIVI)), studio(l.studio);
-  for (const QString& nome : {u"0_1.chk"_s, u"Agenda.jed"_s})
-    QFile::copy(origine.filePath(nome), studio.filePath(nome));
+  QFile::copy(origine.filePath(u"Agenda.jed"_s), studio.filePath(u"Agenda.jed"_s));
   Archivio(studio.filePath(u"0_1.chk"_s))
       .esegui(u"INSERT INTO login (nome_utente, password) VALUES ('prova', 'prova')"_s);
   const QString altro = l.fuori + u"/altri/7_ROSSI.orzaline"_s;

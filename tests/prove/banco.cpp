@@ -6,6 +6,7 @@
 #include "core/errore_non_gestito.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
+#include "core/salva_carica.h"
 #include "core/salvataggio.h"
 #include "core/sessione.h"
 
@@ -29,11 +30,33 @@ constexpr int righe_di_dieta = 900;
 using orologio = std::chrono::steady_clock;
 orologio::time_point ultimo_esito = orologio::now();
 
-std::vector<QString> file_di(const QString& cartella, const QString& modello) {
+std::vector<QString> file_di(const QString& cartella, const QStringList& modelli) {
   std::vector<QString> nomi;
-  for (QDirIterator i(cartella, {modello}, QDir::Files, QDirIterator::Subdirectories); i.hasNext();)
+  for (QDirIterator i(cartella, modelli, QDir::Files, QDirIterator::Subdirectories); i.hasNext();)
     nomi.push_back(i.next());
   return nomi;
+}
+
+/// Every row of the registry bears the path and the number of a file, and every file is a row's.
+void verifica_schedario(const QString& cartella, std::vector<QString> clienti) {
+  Archivio registro(QDir(cartella).filePath(u"fc.jed"_s));
+  for (const Riga& r : registro.righe(u"SELECT cod, nome_files FROM schedario"_s)) {
+    const QString file = r[u"nome_files"].toString();
+    if (std::erase(clienti, file) != 1) fallito("a client went missing: "_L1 + file);
+    if (QFileInfo(file).fileName().section(u'_', 0, 0) != r[u"cod"].toString())
+      fallito("another client's number in the registry: "_L1 + file);
+  }
+  if (!clienti.empty()) fallito("a client's file that is not in the registry: "_L1 + clienti.front());
+}
+
+/// The state of client 1 in the address book, in two of its tables.
+int stato_in_rubrica(const QString& cartella) {
+  Archivio rubrica(QDir(cartella).filePath(u"rubrica.jed"_s));
+  const auto stati = rubrica.righe(
+      u"SELECT indirizzo AS stato FROM Nomi JOIN Abitazione USING (id) WHERE cognome = 'BIANCHI' "
+      "UNION SELECT abitazione FROM Nomi JOIN NumTel USING (id) WHERE cognome = 'BIANCHI'"_s);
+  if (stati.size() != 1) fallito(u"no state or a mixed one in the address book"_s);
+  return stati.front()[u"stato"].toInt();
 }
 
 /// What the offscreen platform lacks is no news.
@@ -97,7 +120,7 @@ void sano(Archivio& a, const QString& file) {
 void scrivi_stato(int stato) {
   Archivio dati(percorso(u"dati.tmp"_s));
   dati.transazione([&] {
-    dati.esegui(u"UPDATE anagrafe SET indirizzo = ?"_s, QString::number(stato));
+    dati.esegui(u"UPDATE anagrafe SET indirizzo = ?, tel1 = ?"_s, QString::number(stato), QString::number(stato));
     dati.esegui(u"DELETE FROM dieta"_s);
     std::vector<QVariantList> righe(righe_di_dieta, {QString::number(stato)});
     dati.esegui_serie(u"INSERT INTO dieta (descr) VALUES (?)"_s, righe);
@@ -114,18 +137,14 @@ int stato_di(const QString& file) {
 }
 
 int verifica(const QString& cartella) {
-  for (const QString& file : file_di(cartella, u"*.jed"_s)) {
+  for (const QString& file : file_di(cartella, {u"*.jed"_s, u"*.chk"_s})) {
     Archivio a(file);  // for writing: what a kill left half done is taken back, as at the next start
     sano(a, file);
   }
-  int stato = -1;
-  const std::vector<QString> clienti = file_di(cartella, u"*.orzaline"_s);
-  for (const QString& file : clienti) {
-    const int s = stato_di(file);
-    stato = stato < 0 ? s : std::min(stato, s);
-  }
-  Archivio registro(QDir(cartella).filePath(u"fc.jed"_s));
-  if (registro.righe(u"SELECT * FROM schedario"_s).size() != clienti.size()) fallito(u"a client went missing"_s);
+  const std::vector<QString> clienti = file_di(cartella, {u"*.orzaline"_s});
+  verifica_schedario(cartella, clienti);
+  int stato = stato_in_rubrica(cartella);
+  for (const QString& file : clienti) stato = std::min(stato, stato_di(file));
   return stato;
 }
 
@@ -133,7 +152,8 @@ QString file_cliente(const QString& cartella) { return QDir(cartella).filePath(u
 
 void prepara(const QString& cartella) {
   const QDir origine(QStringLiteral(CARTELLA_ARCHIVI));
-  for (const QString& nome : {u"matrix.jed"_s, u"fc.jed"_s, u"rubrica.jed"_s, u"studio.jed"_s, u"ccc.jed"_s}) {
+  for (const QString& nome :
+       {u"matrix.jed"_s, u"fc.jed"_s, u"rubrica.jed"_s, u"studio.jed"_s, u"ccc.jed"_s, u"0_1.chk"_s}) {
     sostituisci_file(origine.filePath(nome), QDir(cartella).filePath(nome));
   }
   QDir(cartella).mkpath(u"1_BIANCHI"_s);
@@ -163,6 +183,7 @@ void prendi_banner() {
 
 void salva_stato(int stato) {
   scrivi_stato(stato);
+  carica_cliente(0);  // the address book takes what the form shows
   salvataggio_generale();
 }
 

@@ -26,13 +26,15 @@ int esegui(const std::function<void()>& prova);
 void sano(Archivio& a, const QString& file);
 
 /// A state of the client's file is one number, the same in the master data and in 900 rows of diet: a mixture shows.
+/// The address and the telephone take it on into the address book.
 void scrivi_stato(int stato);
 
 /// The state that a client's file holds. Fails the proof where the file is damaged, does not read in full or is mixed.
 int stato_di(const QString& file);
 
-/// All .jed stores and every client's file of a folder open, pass the engine's check and read in full; the registry
-/// knows just the clients whose files stand. Answers the lowest state found.
+/// All stores and every client's file of a folder open, pass the engine's check and read in full; the registry knows
+/// just the files that stand, by path and number; the address book holds one whole state of client 1. Answers the
+/// lowest state found in the files and in the address book.
 int verifica(const QString& cartella);
 
 /// The program's stores and client 1, BIANCHI, saved in state 1.

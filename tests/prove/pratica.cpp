@@ -7,6 +7,7 @@
 #include "core/registro.h"
 #include "core/trasferimento.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
 
@@ -23,14 +24,31 @@ QStringList file_in(const QString& cartella, const QStringList& modelli) {
   return trovati;
 }
 
-/// A client's file is whole and holds the client that it is to be; answers its state.
-int stato_del_cliente(const QString& file, int cod, const QString& cognome) {
+struct Contenuto {
+  int stato, dieta;
+};
+
+/// A client's file is whole and holds the client that it is to be.
+Contenuto contenuto_del_cliente(const QString& file, int cod, const QString& cognome) {
   Archivio a(file, accesso, Archivio::Modo::sola_lettura);
   prove::sano(a, file);
   verifica_cliente(a);
   const Riga r = a.righe(u"SELECT cod, cognome, indirizzo FROM anagrafe"_s).front();
   if (r[u"cod"].toInt() != cod || r[u"cognome"].toString() != cognome) fallito(u"another client is in "_s + file);
-  return r[u"indirizzo"].toInt();
+  return {r[u"indirizzo"].toInt(), impronta_dieta(a)};
+}
+
+int stato_in_rubrica(const Cartelle& dove, const QString& cognome) {
+  Archivio rubrica(QDir(dove.pratica).filePath(u"rubrica.jed"_s));
+  const auto righe =
+      rubrica.righe(u"SELECT indirizzo FROM Nomi JOIN Abitazione USING (id) WHERE cognome = ?"_s, cognome);
+  if (righe.size() > 1) fallito(u"a client is twice in the address book"_s);
+  return righe.empty() ? 0 : righe.front()[u"indirizzo"].toInt();
+}
+
+bool recente(const QString& file) {
+  const QFileInfo f(file);
+  return f.exists() && f.lastModified().toSecsSinceEpoch() > 0;
 }
 
 /// The document ends, and its table of contents stands where it says.
@@ -55,6 +73,23 @@ void importa_esempi(const Cartelle& dove) {
 QString esempi() { return QStringLiteral(CARTELLA_ARCHIVI "/esempi"); }
 
 Cartelle::Cartelle() : pratica(radice.filePath(u"pratica"_s)), fuori(radice.filePath(u"fuori"_s)) {}
+
+void Cartelle::invecchia() const {
+  for (const QString& nome : file_in(fuori, {u"*"_s})) {
+    QFile f(nome);
+    if (!f.open(QIODevice::ReadWrite) ||
+        !f.setFileTime(QDateTime::fromSecsSinceEpoch(0), QFileDevice::FileModificationTime))
+      fallito(u"cannot be dated back: "_s + nome);
+  }
+}
+
+int impronta_dieta(Archivio& cliente) {
+  QByteArray tutto;
+  for (const Riga& r : cliente.righe(u"SELECT * FROM dieta ORDER BY rowid"_s)) {
+    for (const QString& campo : r.campi()) tutto += r[campo].toString().toUtf8() + ',';
+  }
+  return qChecksum(tutto);
+}
 
 void prepara(const Cartelle& dove) {
   const QDir origine(QStringLiteral(CARTELLA_ARCHIVI)), qui(dove.pratica);
@@ -86,16 +121,20 @@ Trovato esamina(const Cartelle& dove, const QString& cognome) {
       continue;
     }
     ++t.clienti;
-    const int stato = stato_del_cliente(suo, r[u"cod"].toInt(), chi);
+    const auto [stato, dieta] = contenuto_del_cliente(suo, r[u"cod"].toInt(), chi);
     if (chi != cognome) continue;
     t.stato = stato;
+    t.dieta = dieta;
     const QString fuori = QDir(dove.fuori).filePath(QFileInfo(suo).fileName());
-    if (QFile::exists(fuori)) t.stato_esportato = stato_del_cliente(fuori, r[u"cod"].toInt(), chi);
+    if (!QFile::exists(fuori)) continue;
+    const int esportato = contenuto_del_cliente(fuori, r[u"cod"].toInt(), chi).stato;
+    if (recente(fuori)) t.stato_esportato = esportato;
   }
   if (!file.isEmpty()) fallito(u"a client's file that is not in the registry: "_s + file.join(u' '));
+  t.in_rubrica = stato_in_rubrica(dove, cognome);
   QFile pdf(dove.pdf());
-  t.stampa = pdf.open(QIODevice::ReadOnly);
-  if (t.stampa && !pdf_intero(pdf.readAll())) fallito(u"the print is cut off"_s);
+  if (pdf.open(QIODevice::ReadOnly) && !pdf_intero(pdf.readAll())) fallito(u"the print is cut off"_s);
+  t.stampa = recente(dove.pdf());
   return t;
 }
 

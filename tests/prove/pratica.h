@@ -3,6 +3,7 @@
 #pragma once
 
 #include "banco.h"
+#include "base/archivio.h"
 
 #include <QString>
 #include <QTemporaryDir>
@@ -18,6 +19,8 @@ inline const QString parola = QStringLiteral("orzo e farro");
 struct Cartelle {
   Cartelle();
   [[nodiscard]] QString pdf() const { return fuori + QStringLiteral("/stampa.pdf"); }
+  /// Dates the exports and prints back: what is written from here on is newer.
+  void invecchia() const;
 
   QTemporaryDir radice;
   QString pratica, fuori;  // the program's folder; where exports and prints go
@@ -30,9 +33,14 @@ struct Trovato {
   std::size_t clienti = 0;   // rows of the registry whose file is there
   int righe_senza_file = 0;  // of an import that was cut short
   int stato = 0;             // of the client's file
-  int stato_esportato = 0;   // of the exported file, 0 where there is none
-  bool stampa = false;
+  int dieta = 0;             // the mark of the diet in the client's file
+  int in_rubrica = 0;        // the client's state in the address book, 0 where it has none
+  int stato_esportato = 0;   // of the file exported since invecchia(), 0 where there is none
+  bool stampa = false;       // printed since invecchia()
 };
+
+/// A number, below 65536, by which a stored diet is known again.
+[[nodiscard]] int impronta_dieta(Archivio& cliente);
 
 /// Fails the proof where a store or a client's file is not whole, a file is no row's, a row's number or surname is not
 /// its file's, or the print is cut off.

@@ -16,6 +16,7 @@
 #include "core/sezioni_cliente.h"
 #include "diary/formdiario.h"
 #include "diet/dieta.h"
+#include "diet/preferenze_archivio.h"
 #include "intake/formanag.h"
 #include "intake/formpers.h"
 #include "office/agenda.h"
@@ -31,7 +32,7 @@ namespace prove {
 
 namespace {
 
-constexpr int esami = 20, cibi_al_pasto = 5, impegni = 3;
+constexpr int esami = 20, cibi_al_pasto = 5, impegni = 3, cibi_in_scheda = 200, cibi_del_diario = 40;
 const QString giorno_di_prova = u"02/03/2026"_s;
 
 QString ripetuto(int stato, int volte) {
@@ -89,6 +90,28 @@ void scrivi_menu(int stato, int volte) {
   scrivi_dieta(motore(), dati_tmp(), u"1"_s);
 }
 
+/// The foods of a meal, and its boxes in another table: the only one not ticked bears the state's number.
+void scrivi_preferenze(int stato, int volte) {
+  AlimentoScheda cibo;
+  cibo.cod1 = stato;
+  cibo.liste.fill(ripetuto(stato, volte));
+  std::vector<bool> caselle(static_cast<std::size_t>(stato) + 1, true);
+  caselle.back() = false;
+  apri_dati_tmp(Scopo::salvare);
+  salva_spunte(dati_tmp(), scheda_di::cena + 1, Scheda(cibi_in_scheda, cibo), u"CheckCena", caselle);
+}
+
+/// A dose that is chosen stores all of the family's.
+void scrivi_scelte_diario(int stato, int) {
+  Formdiario& f = schermata<Formdiario>();
+  f.ListPASTI->setCurrentRow(0);
+  f.MSFlex1->setRowCount(0);
+  for (int i = 0; i < cibi_del_diario; ++i) {
+    aggiungi_riga(f.MSFlex1, {QString::number(f.trova_cod1()), QString::number(i), {}, {}, {}, QString::number(stato)});
+  }
+  f.Combodose->setCurrentIndex(stato % 2);
+}
+
 void scrivi_rubrica(int stato, int volte) {
   const QString n = ripetuto(stato, volte);
   Archivio rubrica(percorso(u"rubrica.jed"_s));
@@ -115,6 +138,12 @@ std::vector<Luogo> luoghi(const QString& tabella, const QStringList& campi, int 
   return l;
 }
 
+std::vector<Luogo> luoghi_preferenze() {
+  auto l = luoghi(u"alimenti_spuntati"_s, {u"cod1"_s, u"abb_OK"_s, u"abb_LV"_s, u"abb_SD"_s}, cibi_in_scheda);
+  l.push_back({u"checkAlimentiSpuntati"_s, u"CheckCena"_s, 1});
+  return l;
+}
+
 std::vector<Luogo> luoghi_funzionale() {
   auto l = luoghi(u"Anamnesi"_s, campi_anamnesi);
   l.push_back({u"farmaci"_s, u"farmaci"_s, 9});
@@ -126,7 +155,7 @@ std::vector<Luogo> luoghi_funzionale() {
 
 /// The states that a text names; none in an empty one.
 QStringList stati_in(const QVariant& v) {
-  static const QRegularExpression separatori(u"[+,]"_s);
+  static const QRegularExpression separatori(u"[+,;]"_s);
   return v.toString().split(separatori, Qt::SkipEmptyParts);
 }
 
@@ -150,6 +179,8 @@ const std::vector<Scrittura>& scritture() {
       {u"follow-up"_s, dati, scrivi_sezione<Formtratta, 10, sezione_trattamento, campi_trattamento>,
        luoghi(u"trattamento"_s, campi_trattamento)},
       {u"diet"_s, dati, scrivi_menu, luoghi(u"dieta"_s, {u"descr"_s, u"quant_mod"_s}, cibi)},
+      {u"food preferences"_s, dati, scrivi_preferenze, luoghi_preferenze()},
+      {u"diary's choices"_s, dati, scrivi_scelte_diario, luoghi(u"scelte_diario"_s, {u"dose"_s}, cibi_del_diario)},
       {u"address book"_s,
        u"rubrica.jed"_s,
        scrivi_rubrica,

@@ -1,5 +1,5 @@
 // The writes of single stores, each of a numbered state that can be read back: sections of the client's working copy,
-// the stored diet, address book, agenda, registry.
+// the stored diet, the choices of foods, address book, agenda, registry.
 #pragma once
 
 #include <QStringList>

@@ -3,8 +3,8 @@
 //
 //   prova_uccisioni [general saves] [store writes]      (12 and 24 by default)
 //
-// A child saves one state after the other and is killed. The file must then hold one whole state, not older than the
-// last one whose save came back.
+// A child saves one state after the other and is killed. The file must then hold one whole state, the last one whose
+// save came back or the next; after a general save, the address book too, and never one ahead of the file.
 #include "banco.h"
 #include "scritture.h"
 
@@ -27,13 +27,15 @@ int uccidi(const prove::Figlio& f, unsigned al_più, const QString& che) {
   if (!prove::ascolta(f, stato)) prove::fallito(u"the child did not save: "_s + che);
   ::usleep(std::uniform_int_distribution<unsigned>(0, al_più)(caso));
   ::kill(f.pid, SIGKILL);
-  return prove::raccogli(f, stato).ultimo;
+  const prove::Fine fine = prove::raccogli(f, stato);
+  if (fine.esito != SIGKILL) prove::fallito(u"the child ended before it was killed: "_s + che);
+  return fine.ultimo;
 }
 
 void salvataggi(int uccisioni) {
   const QTemporaryDir cartella;
   prove::prepara(cartella.path());
-  int ultimo = 1, prima_del_racconto = 0;
+  int ultimo = 1, prima_del_racconto = 0, prima_della_rubrica = 0;
   for (int i = 0; i < uccisioni; ++i) {
     const prove::Figlio f = prove::avvia(cartella.path(), [&](const auto& racconta) {
       prove::apri_cliente(cartella.path());
@@ -44,13 +46,19 @@ void salvataggi(int uccisioni) {
     });
     const int detto = uccidi(f, 40000, u"general save"_s);
     const int trovato = prove::verifica(cartella.path());
+    const int nel_file = prove::stato_di(prove::file_cliente(cartella.path()));
     if (trovato < detto) prove::fallito(u"a save that came back was lost"_s);
-    prima_del_racconto += trovato > detto;
+    if (nel_file > detto + 1) prove::fallito(u"a state from nowhere"_s);
+    if (trovato != nel_file && trovato != nel_file - 1) prove::fallito(u"the address book does not follow the file"_s);
+    prima_della_rubrica += trovato < nel_file;
+    prima_del_racconto += nel_file > detto;
     ultimo = trovato;
   }
   prove::esito(u"General saves killed"_s, uccisioni,
-               u"0 lost, 0 torn; %1 states saved, %2 kills between the rename and its report"_s.arg(ultimo).arg(
-                   prima_del_racconto));
+               u"0 lost, 0 torn; %1 states saved, %2 kills between the rename and its report, %3 of them before the "
+               "address book"_s.arg(ultimo)
+                   .arg(prima_del_racconto)
+                   .arg(prima_della_rubrica));
 }
 
 void archivi(int uccisioni) {

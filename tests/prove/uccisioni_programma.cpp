@@ -31,7 +31,9 @@
 #include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <optional>
 #include <random>
+#include <set>
 
 using namespace Qt::StringLiterals;
 using prove::fallito;
@@ -42,8 +44,8 @@ const QString cognome = u"BIANCHI"_s;
 constexpr std::size_t troppi_clienti = 8;
 std::mt19937 caso(1);
 
-/// What the working child tells: the kind of event times a million, and the state.
-enum Evento { salvato = 1, esportato, importato, stampato, imprevisto };
+/// What the working child tells: the kind of event times a million, and the state or the diet's mark.
+enum Evento { salvato = 1, esportato, importato, stampato, dieta_scritta, dieta_salvata, imprevisto };
 constexpr int milione = 1'000'000;
 
 using Racconto = std::function<void(int)>;
@@ -91,6 +93,11 @@ void richiama(const QString& chi) {
   if (schermata<Mdiorza>().qualeform.text() != u"0") fallito(u"is not recalled: "_s + chi);
 }
 
+int impronta_di_lavoro() {
+  Archivio dati(percorso(u"dati.tmp"_s), accesso, Archivio::Modo::sola_lettura);
+  return pratica::impronta_dieta(dati);
+}
+
 struct Lavoratore {
   const pratica::Cartelle& dove;
   int stato;
@@ -120,12 +127,14 @@ struct Lavoratore {
     clic(f.Cmdimp);
     clic(f.Command3);
   }
-  static void elabora() {
+  /// The box tells of the working copy, the general save after it brings the diet into the client's file.
+  static void elabora(const Racconto& racconta) {
     clic(schermata<Mdiorza>().cmdsopra[5]);
     const auto& f = schermata<Formelabora>();
     f.Combo1->setCurrentIndex(0);
     clic(f.test);
     clic(f.Command5[0]);
+    racconta(dieta_salvata * milione + impronta_di_lavoro());
   }
   void stampa(const Racconto& racconta) const {
     esterno().imposta_stampante = [this](QPrinter& p) {
@@ -152,7 +161,7 @@ constexpr Risposta risposte[]{
     {u"Ho difficoltà ad elaborare", true, 0},
     {u"Errori KCAL", true, 0},
     {u"Attenzione: la difficoltà di elaborare", true, 0},
-    {u"Dieta salvata", true, 0},
+    {u"Dieta salvata", true, dieta_scritta},
     {u"La dieta precedentemente salvata è stata caricata", true, 0},
     {u"Attenzione: il codice del cliente che si è deciso di importare esiste già.", true, 0},
     {u"Si è deciso di copiare i dati del cliente", true, 0},
@@ -166,7 +175,7 @@ void lavora(const pratica::Cartelle& dove, int stato, std::uint32_t seme, const 
   parla_con([&](const Riquadro& r) {
     for (const Risposta& a : risposte) {
       if (!r.testo.startsWith(a.inizio)) continue;
-      if (a.evento) racconta(a.evento * milione + in_archivio);
+      if (a.evento) racconta(a.evento * milione + (a.evento == dieta_scritta ? impronta_di_lavoro() : in_archivio));
       return a.sì;
     }
     std::fprintf(stderr, "unexpected box: %s | %s\n", qPrintable(r.titolo), qPrintable(r.testo));
@@ -179,8 +188,8 @@ void lavora(const pratica::Cartelle& dove, int stato, std::uint32_t seme, const 
                                              l.salva(racconta);
                                              in_archivio = l.stato - 1;
                                            },
-                                           [&] { l.esporta(); }, [&] { l.importa(); }, [] { Lavoratore::elabora(); },
-                                           [&] { l.stampa(racconta); }};
+                                           [&] { l.esporta(); }, [&] { l.importa(); },
+                                           [&] { Lavoratore::elabora(racconta); }, [&] { l.stampa(racconta); }};
   passi.push_back(passi.front());
   std::ranges::shuffle(passi, std::mt19937(seme));
   for (const auto& p : passi) p();
@@ -201,32 +210,46 @@ void riparti(std::size_t clienti, int stato, const QString& altro, const Raccont
 // ---- in the parent
 
 struct Conto {
-  int stati = 0, importati = 0, esportati = 0, stampati = 0, a_metà = 0;
+  int uccisi = 0, finiti = 0;
+  int importati = 0, esportati = 0, stampati = 0, a_metà = 0;
+  std::set<int> diete;  // the marks that were told
 };
 
-/// What was told before the kill must be there; answers the state of the client's file.
-int giudica(const pratica::Cartelle& dove, const std::vector<int>& detti, int stato, std::size_t clienti_prima,
-            Conto& conto) {
-  int salvati = stato, fuori = 0, stampe = 0;
-  std::size_t entrati = 0;
-  for (const int d : detti) {
-    if (d / milione == imprevisto) fallito(u"an unexpected box in the work"_s);
-    if (d / milione == salvato) salvati = d % milione;
-    if (d / milione == esportato) fuori = d % milione;
-    entrati += d / milione == importato;
-    stampe += d / milione == stampato;
+/// What a working child told, the last of each; 0 for what it did not tell.
+struct Detto {
+  int salvato = 0, esportato = 0, stampati = 0;
+  std::size_t importati = 0;
+  std::optional<int> dieta_scritta, dieta_salvata;
+};
+
+Detto ascolta_tutto(const prove::Figlio& f) {
+  Detto d;
+  for (int n = 0; prove::ascolta(f, n);) {
+    switch (n / milione) {
+      case salvato: d.salvato = n % milione; break;
+      case esportato: d.esportato = n % milione; break;
+      case importato: ++d.importati; break;
+      case stampato: ++d.stampati; break;
+      case dieta_scritta: d.dieta_scritta = n % milione; break;
+      case dieta_salvata: d.dieta_salvata = n % milione; break;
+      default: fallito(u"an unexpected box in the work"_s);
+    }
   }
-  const pratica::Trovato t = pratica::esamina(dove, cognome);
-  if (t.stato < salvati) fallito(u"a save that was told is lost"_s);
-  if (fuori && t.stato_esportato < fuori) fallito(u"an export that was told is not there"_s);
-  if (t.clienti < clienti_prima + entrati) fallito(u"an import that was told is not there"_s);
-  if (stampe && !t.stampa) fallito(u"a print that was told is not there"_s);
-  conto.stati = t.stato;
-  conto.importati += static_cast<int>(entrati);
-  conto.esportati += fuori != 0;
-  conto.stampati += stampe;
-  conto.a_metà += t.righe_senza_file;
-  return t.stato;
+  return d;
+}
+
+/// What was told before the kill must be there, and what stood there before must not have gone.
+void giudica(const pratica::Trovato& prima, const Detto& d, const pratica::Trovato& t) {
+  if (t.stato < std::max(prima.stato, d.salvato)) fallito(u"a save that was told is lost"_s);
+  if (t.in_rubrica < std::max(prima.in_rubrica, d.salvato))
+    fallito(u"a save that was told is not in the address book"_s);
+  if (t.in_rubrica > t.stato) fallito(u"the address book is ahead of the client's file"_s);
+  if (t.stato_esportato < d.esportato) fallito(u"an export that was told is not there"_s);
+  if (t.clienti < prima.clienti + d.importati) fallito(u"an import that was told is not there"_s);
+  if (d.stampati && !t.stampa) fallito(u"a print that was told is not there"_s);
+  const bool nota =
+      d.dieta_salvata ? t.dieta == *d.dieta_salvata : t.dieta == prima.dieta || t.dieta == d.dieta_scritta;
+  if (!nota) fallito(u"the client's file holds another diet than was told"_s);
 }
 
 void riavvia(const pratica::Cartelle& dove, int stato) {
@@ -249,36 +272,47 @@ unsigned durata(const pratica::Cartelle& dove) {
       std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - inizio).count());
 }
 
+/// One work, killed where it has not come to its end by then.
+void uccidi(const pratica::Cartelle& dove, unsigned tutto, Conto& conto) {
+  dove.invecchia();
+  const pratica::Trovato prima = pratica::esamina(dove, cognome);
+  const auto seme = static_cast<std::uint32_t>(caso());
+  const prove::Figlio f =
+      prove::avvia(dove.pratica, [&](const auto& racconta) { lavora(dove, prima.stato + 1, seme, racconta); });
+  ::usleep(std::uniform_int_distribution<unsigned>(0, tutto)(caso));
+  ::kill(f.pid, SIGKILL);
+  const Detto d = ascolta_tutto(f);
+  const int esito = prove::raccogli(f, 0).esito;
+  if (esito != 0 && esito != SIGKILL) fallito(u"the work ended before it was killed"_s);
+  const pratica::Trovato t = pratica::esamina(dove, cognome);
+  giudica(prima, d, t);
+  ++(esito == 0 ? conto.finiti : conto.uccisi);
+  conto.importati += static_cast<int>(d.importati);
+  conto.esportati += d.esportato != 0;
+  conto.stampati += d.stampati;
+  if (d.dieta_salvata) conto.diete.insert(*d.dieta_salvata);
+  conto.a_metà += t.righe_senza_file;
+  riavvia(dove, t.stato);
+}
+
 void programma(int uccisioni) {
   const pratica::Cartelle dove;
   pratica::prepara(dove);
   const unsigned tutto = durata(dove);
-  int stato = pratica::esamina(dove, cognome).stato;
   Conto conto;
-  for (int i = 0; i < uccisioni; ++i) {
-    if (pratica::esamina(dove, cognome).clienti > troppi_clienti) {
-      pratica::prepara(dove);
-      stato = 1;
-    }
-    const std::size_t clienti = pratica::esamina(dove, cognome).clienti;
-    const auto seme = static_cast<std::uint32_t>(caso());
-    const prove::Figlio f =
-        prove::avvia(dove.pratica, [&](const auto& racconta) { lavora(dove, stato + 1, seme, racconta); });
-    ::usleep(std::uniform_int_distribution<unsigned>(0, tutto)(caso));
-    ::kill(f.pid, SIGKILL);
-    std::vector<int> detti;
-    for (int d = 0; prove::ascolta(f, d);) detti.push_back(d);
-    const int esito = prove::raccogli(f, 0).esito;
-    if (esito != 0 && esito != SIGKILL) fallito(u"the work ended before it was killed"_s);
-    stato = giudica(dove, detti, stato, clienti, conto);
-    riavvia(dove, stato);
+  while (conto.uccisi < uccisioni) {
+    if (pratica::esamina(dove, cognome).clienti > troppi_clienti) pratica::prepara(dove);
+    uccidi(dove, tutto, conto);
+    if (conto.finiti > uccisioni + 10) fallito(u"most works end before they are killed"_s);
   }
-  prove::esito(u"Whole program killed and started again"_s, uccisioni,
-               u"0 lost, 0 torn, 0 questions; told: %1 exports, %2 imports, %3 prints; %4 imports cut short"_s
-                   .arg(conto.esportati)
+  prove::esito(u"Whole program killed and started again"_s, conto.uccisi,
+               u"0 lost, 0 torn, 0 questions; told: %1 exports, %2 imports, %3 prints, %4 different diets; %5 imports "
+               "cut short; %6 works that came to their end not counted"_s.arg(conto.esportati)
                    .arg(conto.importati)
                    .arg(conto.stampati)
-                   .arg(conto.a_metà));
+                   .arg(conto.diete.size())
+                   .arg(conto.a_metà)
+                   .arg(conto.finiti));
 }
 
 }  // namespace
