@@ -34,7 +34,7 @@ constexpr double crescita_massima = 1e9;  // the sanitizer keeps what is given b
 #else
 constexpr double crescita_massima = 0.05;
 #endif
-constexpr int elaborazioni_a_cliente = 20, cambi_di_stadio = 25, anteprime = 9;  // of a turn
+constexpr int elaborazioni_a_cliente = 100, cambi_di_stadio = 25, anteprime = 9;  // of a turn
 constexpr std::array campioni{u"1300_bianchi", u"1900_ferri", u"2600_moretti"};
 
 /// What the process holds between two clicks.
