@@ -15,6 +15,7 @@
 #include "core/formsched.h"
 #include "core/mdiorza.h"
 #include "core/messaggi.h"
+#include "core/registro.h"
 #include "core/sessione.h"
 #include "diary/formintegrat.h"
 #include "diet/formalimenti.h"
@@ -24,6 +25,7 @@
 #include "tolleranze.h"
 
 #include <unistd.h>
+#include <QDir>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <csignal>
@@ -299,6 +301,14 @@ void Prova::cliente(int numero) {
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+/// The archive stays small: it is opened for every client, and lists all.
+void sgombra() {
+  for (const Iscritto& i : iscritti()) {
+    cancella_iscritto(i.cod);
+    QFileInfo(i.file).dir().removeRecursively();
+  }
+}
+
 QString elenco(const std::map<QString, int>& conti) {
   QStringList voci;
   for (const auto& [che, quanti] : conti) voci << u"%1 %2"_s.arg(quanti).arg(che);
@@ -337,7 +347,10 @@ int main(int argc, char** argv) {
     static_cast<void>(schermata<Mdiorza>());  // neither styled nor shown: half the time
     const int quanti = prove::quante(argc, argv, 1, 25), primo = prove::quante(argc, argv, 2, 1);
     Prova prova;
-    for (int i = 0; i < quanti; ++i) prova.cliente(primo + i);
+    for (int i = 0; i < quanti; ++i) {
+      prova.cliente(primo + i);
+      sgombra();
+    }
     prova.esiti(quanti);
     abbandona_schermate();
     chiudi_archivi();

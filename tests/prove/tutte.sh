@@ -7,7 +7,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/../.."
 
 # build, program, counts; about how long it takes
 prove=(
-  'release clienti             5000'             # 20 min
+  'release clienti             5000'             # 10 min
   'release uccisioni           1000 2000'        # 4 min
   'release uccisioni_programma 300'              # 4 min
   'release lungo_uso           10000 80 56'      # 8 min
