@@ -109,12 +109,13 @@ void Formintegrat::salva() {
 
 bool Formintegrat::dieta() const { return Form_loader.text() == u"0"; }
 
-/// The diet's table alone, whichever the window serves.
+/// The diet's table alone, whichever the window serves. Of two names that differ in a capital the one that is shown
+/// goes.
 void Formintegrat::elimina() {
   apri_dati_tmp(Scopo::salvare);
   dati_tmp().esegui(
-      u"DELETE FROM Integratore_dieta WHERE rowid = "
-      "(SELECT min(rowid) FROM Integratore_dieta WHERE Descrizione = ?)"_s,
+      u"DELETE FROM Integratore_dieta WHERE rowid = (SELECT rowid FROM Integratore_dieta WHERE Descrizione = ?1 "
+      "ORDER BY Descrizione = ?1 COLLATE BINARY DESC, rowid LIMIT 1)"_s,
       Text1[nome]->text());
   avverti_dieta();
   scarica<Formintegrat>();

@@ -187,9 +187,13 @@ TEST_F(ProvaFormdiario, ValuesThatDoNotFitAreRefusedAndDeletionIsTheDietsAlone) 
   w.Command1[1]->click();
   EXPECT_EQ(testi(w.Text1), u"     "_s);
   integratore({u"O'Hara"_s, u"1"_s, u"1"_s, u"1"_s, u"30"_s}).Command1[0]->click();
-  apri_integratore(u"1"_s, {u"O'HARA"_s});
-  caricata<Formintegrat>()->Command1[2]->click();
-  EXPECT_EQ(righe(u"Integratore_dieta"_s), QString());
+  apri_integratore(u"0"_s, {u"O'HARA"_s, u"5"_s, u"400"_s, u"80"_s, u"8"_s, u"2"_s});
+  caricata<Formintegrat>()->Command1[0]->click();
+  for (const QString& resta : {u"O'Hara 20 400"_s, QString()}) {
+    apri_integratore(u"1"_s, {u"O'HARA"_s});
+    caricata<Formintegrat>()->Command1[2]->click();
+    EXPECT_EQ(righe(u"Integratore_dieta"_s), resta) << "first the very name, then one that differs in a capital";
+  }
   EXPECT_EQ(righe(u"Integratore_diario"_s), u"O'Hara 30 17"_s) << "the diary's row stays";
 }
 
