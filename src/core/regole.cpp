@@ -65,7 +65,8 @@ void dettaglio::clic_di_lista(QListWidget* lista, std::function<void()> regola) 
     // The focus alone makes the first line current without choosing it.
     if (riga < 0 || lista->item(riga)->isSelected()) s->cambiata();
   });
-  QObject::connect(lista, &QListWidget::itemClicked, lista, [s] { s->scelta(); });
+  // The press chooses the line, with whichever button and wherever it is let go.
+  QObject::connect(lista, &QListWidget::itemPressed, lista, [s] { s->scelta(); });
   // The space bar chooses the line that the focus made current.
   new Guardia(lista, [s, lista](QEvent* e) {
     const bool spazio = e->type() == QEvent::KeyRelease && static_cast<QKeyEvent*>(e)->key() == Qt::Key_Space;

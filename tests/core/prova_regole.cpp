@@ -59,6 +59,7 @@ TEST(ProvaRegole, AnOpenListTellsEachChoiceOnce) {
   int detti = 0;
   al_clic(&lista, [&] { ++detti; });
   lista.show();
+  const auto linea = [&](int riga) { return lista.visualItemRect(lista.item(riga)).center(); };
   const std::tuple<const char*, std::function<void()>, int> casi[]{
       {"the focus is no choice", [&] { lista.setFocus(); }, 0},
       {"a line", [&] { clic(&lista, 1); }, 1},
@@ -66,6 +67,14 @@ TEST(ProvaRegole, AnOpenListTellsEachChoiceOnce) {
       {"another line", [&] { clic(&lista, 0); }, 1},
       {"by program", [&] { lista.setCurrentRow(1); }, 1},
       {"the line that the program chose", [&] { clic(&lista, 1); }, 1},
+      {"the right button chooses too", [&] { QTest::mouseClick(lista.viewport(), Qt::RightButton, {}, linea(0)); }, 1},
+      {"a press", [&] { QTest::mousePress(lista.viewport(), Qt::LeftButton, {}, linea(1)); }, 1},
+      {"let go beside the line",
+       [&] {
+         QTest::mouseRelease(lista.viewport(), Qt::LeftButton, {}, {50, 90});
+       },
+       0},
+      {"the arrow key", [&] { QTest::keyClick(&lista, Qt::Key_Up); }, 1},
   };
   for (const auto& [che, come, volte] : casi) {
     come();

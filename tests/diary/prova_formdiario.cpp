@@ -81,6 +81,9 @@ TEST_F(ProvaFormdiario, MealGroupAndFamilyLeadToTheFoods) {
   EXPECT_EQ(f->MSFlex1->rowCount(), std::ranges::count_if(cibi, [](const Alimento& a) { return a.quantita != 0; }));
   QTest::keyClick(f->ListAlimenti, Qt::Key_Space, Qt::ControlModifier);
   EXPECT_EQ(f->trova_cod1(), 12) << "foods on the grid always have their family";
+  QTest::mouseClick(f->ListAlimenti->viewport(), Qt::RightButton, {},
+                    f->ListAlimenti->visualItemRect(f->ListAlimenti->item(0)).center());
+  EXPECT_EQ(cella(0, 0).toInt(), f->trova_cod1()) << "whichever button chose it";
   clic(f->ListGRUPPI, 3);
   EXPECT_EQ(voci(f->ListAlimenti), u"Latticini, Formaggi, Uova di gallina"_s);
   EXPECT_TRUE(f->MSFlex1->rowCount() == 0 && f->trova_cod1() == 0) << "no family is chosen";
