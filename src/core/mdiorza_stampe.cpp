@@ -61,6 +61,7 @@ void Mdiorza::abilita_stampe(bool si) {
 }
 
 void Mdiorza::apri_stampe() {
+  cmdsopra[10]->setFocus();  // leaving a field has its rule, and what the rule writes is saved too
   const Stadio* davanti = stadio(qualeform.text());
   salva_cliente(davanti ? davanti->codice : -1);
   for (const VoceStampa& v : voci) {

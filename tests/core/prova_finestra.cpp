@@ -88,8 +88,12 @@ TEST_F(ProvaFinestra, ThePopupOfTheReportsSavesTheStageAndOpensTheDocumentsThatA
   ASSERT_TRUE(richiama(registra(cliente("1900_ferri"))));
   schermata<Formanag>().Txtloc->setText(u"Colle alto"_s);
   scrivi(percorso(u"Norme.doc"_s), "norme");
-  m.cmdsopra[10]->click();
+  attiva_finestra();
+  schermata<Formanag>().Txtdatanasc->setFocus();
+  riscrivi(schermata<Formanag>().Txtdatanasc, u"12-5-80"_s);
+  clic(m.cmdsopra[10]);
   EXPECT_EQ(campo(u"anagrafe"_s, u"locali"_s), u"Colle alto"_s);
+  EXPECT_EQ(campo(u"anagrafe"_s, u"data_n"_s), u"12/05/1980"_s) << "its rule ran before the save";
   EXPECT_TRUE(m.stampe->isVisible());
   QString attive, aperto;
   esterno().apri_documento = [&](const QString& file) { return aperto = QFileInfo(file).fileName(), true; };
