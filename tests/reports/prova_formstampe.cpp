@@ -108,6 +108,13 @@ TEST_F(ProvaStampe, TheDiaryFlowsOnToTheNextSheet) {
   EXPECT_TRUE(pagine[1].trimmed().startsWith(u"Cena %"_s));
 }
 
+TEST_F(ProvaStampe, AStoreThatCannotBeReadIsTold) {
+  salva_riga(dati_tmp(), u"scelte_diario"_s, {{u"pasto"_s, 4}, {u"cod1"_s, 8}, {u"cod2"_s, 1}, {u"dose"_s, 100}});
+  QFile::remove(percorso(u"sa_diario.jed"_s));
+  const Dialogo d({{u"Si è verificato un errore nel caricamento !"_s, {}}});
+  apri(u"8"_s, u"v"_s);
+}
+
 TEST_F(ProvaStampe, AFailedPrintIsSaidOnceAndThePreviewStays) {
   const Formstampe& f = apri(u"21"_s, u"v"_s);
   for (const bool lasciata : {true, false}) {  // the dialog left, or a file that cannot be written
