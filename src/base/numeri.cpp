@@ -96,7 +96,7 @@ QString formatta(double x, const char* forma, int cifre) {
 
 QString testo_semplice(double x, int cifre) {
   char buffer[40];
-  std::snprintf(buffer, sizeof buffer, "%.*g", cifre, x);
+  std::snprintf(buffer, sizeof buffer, "%.*g", cifre, x + 0.0);  // a zero has no minus sign
   return QString::fromLatin1(buffer).replace(u'.', QLocale().decimalPoint());
 }
 

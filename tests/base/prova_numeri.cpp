@@ -31,6 +31,7 @@ TEST(Numeri, FormatsRoundTiesAwayFromZeroOnTheDecimalText) {
   EXPECT_EQ(fmt(95.0F / 100, "0.0"), u"1,0"_s) << "a single is judged on seven digits";
   EXPECT_EQ(testo(80.0), u"80"_s);
   EXPECT_EQ(testo(0.1F), u"0,1"_s);
+  EXPECT_EQ(testo(-0.0), u"0"_s);
   EXPECT_EQ(testo(1.0 / 3), u"0,333333333333333"_s);
 }
 
