@@ -54,7 +54,7 @@ void elimina_cartella(const QString& nome) {
 int richiama_cliente() {
   const Attesa attesa;
   if (prosegui([] { prendi(cod_scelto()); })) return 0;
-  messaggio(u"Si è verificato un errore nel caricamento !"_s);
+  avvisa_caricamento();
   return -1;
 }
 

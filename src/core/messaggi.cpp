@@ -7,6 +7,8 @@
 #include <QMessageBox>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QMessageBox::Icon icona_qt(Icona icona) {
@@ -42,6 +44,8 @@ bool parla(const Riquadro& r) {
 }  // namespace
 
 void messaggio(const QString& testo, const QString& titolo, Icona icona) { parla({testo, titolo, icona, false}); }
+
+void avvisa_caricamento() { messaggio(u"Si è verificato un errore nel caricamento !"_s); }
 
 bool domanda(const QString& testo, const QString& titolo, Icona icona) { return parla({testo, titolo, icona, true}); }
 

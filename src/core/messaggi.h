@@ -7,6 +7,9 @@
 
 void messaggio(const QString& testo, const QString& titolo = {}, Icona icona = Icona::nessuna);
 
+/// What a client or a store that cannot be read says.
+void avvisa_caricamento();
+
 /// True for Yes alone; closing the box counts as No.
 [[nodiscard]] bool domanda(const QString& testo, const QString& titolo = {}, Icona icona = Icona::domanda);
 

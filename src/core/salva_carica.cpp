@@ -125,8 +125,7 @@ QVariantMap riga_da_caricare(const QString& tabella) {
   try {
     return carica_riga(dati_tmp(), tabella);
   } catch (const Errore& e) {
-    if (e.numero != non_aperto)
-      messaggio(u"Si è verificato un errore nel caricamento !"_s);  // the other is told already
+    if (e.numero != non_aperto) avvisa_caricamento();  // the other is told already
   }
   return {};
 }

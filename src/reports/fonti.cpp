@@ -27,6 +27,15 @@ void avvisa_stampante() {
       u"poichè i driver sono installati, ma la stessa non è collegata al sistema !"_s);
 }
 
+void scrivi_fin_dove_va(const std::function<void()>& scrive) {
+  constexpr int del_foglio[]{6, 9, 11, 13, 340, 3021};
+  try {
+    scrive();
+  } catch (const Errore& e) {
+    if (std::ranges::find(del_foglio, e.numero) == std::end(del_foglio)) avvisa_caricamento();
+  }
+}
+
 std::optional<Archivio> archivio_alimenti(const QString& nome) {
   if (QFile::exists(percorso(nome))) return Archivio(percorso(nome), accesso, Archivio::Modo::sola_lettura);
   messaggio(u"Errore, file mancante"_s);

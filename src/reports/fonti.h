@@ -3,6 +3,7 @@
 
 #include "base/archivio.h"
 
+#include <functional>
 #include <optional>
 
 /// The practice's name, title and address, as the sheets' heads name them.
@@ -17,6 +18,10 @@ void avvisa_cliente_assente();
 
 /// What a failed print says.
 void avvisa_stampante();
+
+/// Writes a sheet: figures that fail, or more foods than it has places for, end it where it stands. A store that cannot
+/// be read is told, for a white sheet would pass for one that has nothing to say.
+void scrivi_fin_dove_va(const std::function<void()>& scrive);
 
 /// A store beside the program. Empty, and said in a box, where it is missing.
 [[nodiscard]] std::optional<Archivio> archivio_alimenti(const QString& nome);

@@ -82,7 +82,7 @@ void Form_anteprima_diario::al_caricamento() {
   Txtcliente->setText(m.Txtsoggetto->text());
   apri_dati_tmp(Scopo::caricare);
   riempi_livelli();
-  abbandona([this] { riempi_alimenti(); });
+  scrivi_fin_dove_va([this] { riempi_alimenti(); });
 }
 
 void Form_anteprima_diario::reject() { esegui_regola(scarica<Form_anteprima_diario>); }

@@ -3,7 +3,6 @@
 #include "base/errori.h"
 #include "core/attesa.h"
 #include "core/dialoghi.h"
-#include "core/messaggi.h"
 #include "core/regole.h"
 #include "core/schermate.h"
 #include "reports/foglio_dipinto.h"
@@ -50,20 +49,6 @@ const Zoom* zoom_di(const QString& orientamento, int indice) {
 int corsa(int finestra, int foglio) {
   const int avanzo = finestra * twip - foglio * twip - 500;
   return avanzo < 1 ? static_cast<int>(std::nearbyint(std::abs(avanzo / 100.0))) : 0;
-}
-
-/// Figures that fail end a sheet where it stands. A store that cannot be read is told: a white sheet would pass for one
-/// that has nothing to say.
-template <class F>
-void fin_dove_va(F&& scrive) {
-  constexpr int di_cifre[]{6, 9, 11, 13, 3021};
-  try {
-    scrive();
-  } catch (const Errore& e) {
-    if (std::ranges::find(di_cifre, e.numero) == std::end(di_cifre)) {
-      messaggio(u"Si è verificato un errore nel caricamento !"_s);
-    }
-  }
 }
 
 }  // namespace
@@ -138,7 +123,7 @@ void Formstampe::scrivi_pagina() {
     const QPointF logo(0.5 * unità.x(), 0.2 * unità.y());
     const QSizeF misura_logo = List1->currentRow() == 0 ? logo_intero : logo_piccolo;
     FoglioDipinto b(pittore, {corpo_, QPointF(unità.x(), 0), logo, misura_logo}, Pic_logo);
-    fin_dove_va([&] { r->scrivi(b, std::max(1, Slider1->value())); });
+    scrivi_fin_dove_va([&] { r->scrivi(b, std::max(1, Slider1->value())); });
   }
   Picture1->setPixmap(foglio);
 }

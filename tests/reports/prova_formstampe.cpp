@@ -1,6 +1,7 @@
 // The preview and the paper: pages, zoom, scrolling, and what the printer gets.
 #include "ambiente.h"
 #include "diary/formdiario.h"
+#include "reports/form_anteprima_diario.h"
 #include "reports/formstampe.h"
 
 #include <QPrinter>
@@ -111,8 +112,10 @@ TEST_F(ProvaStampe, TheDiaryFlowsOnToTheNextSheet) {
 TEST_F(ProvaStampe, AStoreThatCannotBeReadIsTold) {
   salva_riga(dati_tmp(), u"scelte_diario"_s, {{u"pasto"_s, 4}, {u"cod1"_s, 8}, {u"cod2"_s, 1}, {u"dose"_s, 100}});
   QFile::remove(percorso(u"sa_diario.jed"_s));
-  const Dialogo d({{u"Si è verificato un errore nel caricamento !"_s, {}}});
+  const Atteso non_letto{u"Si è verificato un errore nel caricamento !"_s, {}};
+  const Dialogo d({non_letto, non_letto});
   apri(u"8"_s, u"v"_s);
+  mostra<Form_anteprima_diario>();
 }
 
 TEST_F(ProvaStampe, AFailedPrintIsSaidOnceAndThePreviewStays) {
